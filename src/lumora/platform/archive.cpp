@@ -1,0 +1,102 @@
+#include <lumora/platform/archive.h>
+#include <lumora/platform/coding.h>
+#include <lumora/platform/stream.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace lumora {
+
+Archive::Archive(Stream& stream, Mode mode) : stream_(stream), mode_(mode) {}
+
+// Storing archives must be flushed explicitly; a destructor cannot report a failed write.
+Archive::~Archive() = default;
+
+void Archive::Fill() {
+  if (begin_ < end_) return;
+  begin_ = 0;
+  end_ = stream_.Read(buffer_, kBufferSize);
+}
+
+void Archive::Read(void* buffer, size_t n) {
+  auto* out = static_cast<uint8_t*>(buffer);
+  while (n > 0) {
+    Fill();
+    if (begin_ == end_) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "unexpected end of file");
+    size_t take = std::min(n, end_ - begin_);
+    std::memcpy(out, buffer_ + begin_, take);
+    begin_ += take;
+    out += take;
+    n -= take;
+  }
+}
+
+void Archive::Write(const void* buffer, size_t n) {
+  const auto* in = static_cast<const uint8_t*>(buffer);
+  if (n >= kBufferSize) {
+    Flush();
+    if (!stream_.Write(in, n)) throw ArchiveError(ArchiveError::Kind::kWriteFault, "write failed");
+    return;
+  }
+  if (end_ + n > kBufferSize) Flush();
+  std::memcpy(buffer_ + end_, in, n);
+  end_ += n;
+}
+
+void Archive::Flush() {
+  if (mode_ != Mode::kStore || end_ == 0) return;
+  bool ok = stream_.Write(buffer_, end_);
+  end_ = 0;
+  if (!ok) throw ArchiveError(ArchiveError::Kind::kWriteFault, "write failed");
+}
+
+void Archive::Require(uint64_t n) {
+  uint64_t available = (end_ - begin_) + stream_.Remaining();
+  if (available < n) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "stored count too large");
+}
+
+uint8_t Archive::ReadU8() {
+  uint8_t v;
+  Read(&v, 1);
+  return v;
+}
+
+uint16_t Archive::ReadU16() {
+  uint8_t b[2];
+  Read(b, 2);
+  return DecodeU16(b);
+}
+
+uint32_t Archive::ReadU32() {
+  uint8_t b[4];
+  Read(b, 4);
+  return DecodeU32(b);
+}
+
+void Archive::WriteU8(uint8_t v) { Write(&v, 1); }
+
+void Archive::WriteU16(uint16_t v) {
+  uint8_t b[2];
+  EncodeU16(b, v);
+  Write(b, 2);
+}
+
+void Archive::WriteU32(uint32_t v) {
+  uint8_t b[4];
+  EncodeU32(b, v);
+  Write(b, 4);
+}
+
+void Archive::Io(uint8_t& v) { IsStoring() ? WriteU8(v) : void(v = ReadU8()); }
+void Archive::Io(uint16_t& v) { IsStoring() ? WriteU16(v) : void(v = ReadU16()); }
+void Archive::Io(uint32_t& v) { IsStoring() ? WriteU32(v) : void(v = ReadU32()); }
+
+void Archive::IoBool(bool& v) {
+  if (IsStoring()) {
+    WriteU8(v ? 1 : 0);
+  } else {
+    v = ReadU8() == 1;
+  }
+}
+
+}  // namespace lumora

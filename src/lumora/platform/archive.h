@@ -1,0 +1,73 @@
+// A buffered, little-endian archive over a stream, in load or store mode. Every stored form of
+// the library is written and read through one Serialize per class that calls the same
+// sequence of operations in both modes. Errors are thrown as ArchiveError and caught where a
+// whole file is loaded or stored.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace lumora {
+
+class Stream;
+
+class ArchiveError : public std::runtime_error {
+ public:
+  enum class Kind { kEndOfFile, kBadClass, kBadFormat, kWriteFault };
+  ArchiveError(Kind kind, const std::string& what) : std::runtime_error(what), kind_(kind) {}
+  Kind kind() const { return kind_; }
+
+ private:
+  Kind kind_;
+};
+
+class Archive {
+ public:
+  enum class Mode { kLoad, kStore };
+  static constexpr size_t kBufferSize = 4096;
+
+  Archive(Stream& stream, Mode mode);
+  ~Archive();
+  Archive(const Archive&) = delete;
+  Archive& operator=(const Archive&) = delete;
+
+  bool IsLoading() const { return mode_ == Mode::kLoad; }
+  bool IsStoring() const { return mode_ == Mode::kStore; }
+
+  // Reads exactly n bytes or throws kEndOfFile.
+  void Read(void* buffer, size_t n);
+  void Write(const void* buffer, size_t n);
+  // Writes out what is buffered (store mode); throws kWriteFault when the stream refuses it.
+  void Flush();
+
+  // Throws kEndOfFile unless at least n more bytes can be read. Called before allocating room
+  // for a stored count, so that a corrupted count fails instead of exhausting memory.
+  void Require(uint64_t n);
+
+  uint8_t ReadU8();
+  uint16_t ReadU16();
+  uint32_t ReadU32();
+  void WriteU8(uint8_t v);
+  void WriteU16(uint16_t v);
+  void WriteU32(uint32_t v);
+
+  // Stores or loads one value, whichever the mode is.
+  void Io(uint8_t& v);
+  void Io(uint16_t& v);
+  void Io(uint32_t& v);
+  // A bool kept as one byte: written as 1 or 0, read as true only when the byte is 1.
+  void IoBool(bool& v);
+
+ private:
+  void Fill();
+
+  Stream& stream_;
+  Mode mode_;
+  uint8_t buffer_[kBufferSize];
+  size_t begin_ = 0;  // next unread byte (load)
+  size_t end_ = 0;    // end of valid bytes (load) or of buffered bytes (store)
+};
+
+}  // namespace lumora

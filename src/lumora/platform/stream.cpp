@@ -1,0 +1,33 @@
+#include <lumora/platform/file.h>
+#include <lumora/platform/stream.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace lumora {
+
+FileStream::FileStream(File& file) : file_(file), size_(file.Size()) {}
+
+size_t FileStream::Read(void* buffer, size_t n) { return file_.Read(buffer, n); }
+
+bool FileStream::Write(const void* buffer, size_t n) { return file_.Write(buffer, n); }
+
+uint64_t FileStream::Remaining() const {
+  uint64_t pos = file_.Position();
+  return pos < size_ ? size_ - pos : 0;
+}
+
+size_t MemoryStream::Read(void* buffer, size_t n) {
+  size_t take = std::min(n, bytes_.size() - pos_);
+  if (take > 0) std::memcpy(buffer, bytes_.data() + pos_, take);
+  pos_ += take;
+  return take;
+}
+
+bool MemoryStream::Write(const void* buffer, size_t n) {
+  const auto* p = static_cast<const uint8_t*>(buffer);
+  bytes_.insert(bytes_.end(), p, p + n);
+  return true;
+}
+
+}  // namespace lumora

@@ -1,0 +1,48 @@
+// Byte sources and sinks under an Archive: a file or a block of memory.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace lumora {
+
+class File;
+
+class Stream {
+ public:
+  virtual ~Stream() = default;
+  // Reads up to n bytes; fewer means the end was reached.
+  virtual size_t Read(void* buffer, size_t n) = 0;
+  virtual bool Write(const void* buffer, size_t n) = 0;
+  // Bytes still to be read, so that a corrupted count can be refused before it is allocated.
+  virtual uint64_t Remaining() const = 0;
+};
+
+class FileStream : public Stream {
+ public:
+  explicit FileStream(File& file);
+  size_t Read(void* buffer, size_t n) override;
+  bool Write(const void* buffer, size_t n) override;
+  uint64_t Remaining() const override;
+
+ private:
+  File& file_;
+  uint64_t size_;
+};
+
+class MemoryStream : public Stream {
+ public:
+  MemoryStream() = default;
+  explicit MemoryStream(std::vector<uint8_t> bytes) : bytes_(std::move(bytes)) {}
+  size_t Read(void* buffer, size_t n) override;
+  bool Write(const void* buffer, size_t n) override;
+  uint64_t Remaining() const override { return bytes_.size() - pos_; }
+  const std::vector<uint8_t>& bytes() const { return bytes_; }
+
+ private:
+  std::vector<uint8_t> bytes_;
+  size_t pos_ = 0;
+};
+
+}  // namespace lumora
