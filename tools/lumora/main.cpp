@@ -1,8 +1,40 @@
-#include <CLI/CLI.hpp>
+#include "commands.h"
+
+#include <cstdio>
+#include <exception>
+
+namespace lumora::cli {
+
+std::map<std::string, CommandAdder>& RegisteredCommands() {
+  static std::map<std::string, CommandAdder> commands;
+  return commands;
+}
+
+}  // namespace lumora::cli
+
+namespace {
+
+constexpr int kExitFailure = 1;
+constexpr int kExitUsage = 2;
+
+}  // namespace
 
 int main(int argc, char** argv) {
   CLI::App app{"lumora: inspect and write the content of a multimedia language course"};
   app.set_version_flag("--version", std::string("lumora ") + LUMORA_VERSION);
-  CLI11_PARSE(app, argc, argv);
-  return 0;
+  app.require_subcommand(0, 1);
+  for (const auto& [name, add] : lumora::cli::RegisteredCommands()) add(app);
+  try {
+    app.parse(argc, argv);
+    if (app.get_subcommands().empty()) std::fputs(app.help().c_str(), stdout);
+    return 0;
+  } catch (const CLI::Success& e) {
+    return app.exit(e);
+  } catch (const CLI::ParseError& e) {
+    app.exit(e);
+    return kExitUsage;
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "lumora: %s\n", e.what());
+    return kExitFailure;
+  }
 }

@@ -22,7 +22,8 @@ void Archive::Read(void* buffer, size_t n) {
   auto* out = static_cast<uint8_t*>(buffer);
   while (n > 0) {
     Fill();
-    if (begin_ == end_) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "unexpected end of file");
+    if (begin_ == end_)
+      throw ArchiveError(ArchiveError::Kind::kEndOfFile, "unexpected end of file");
     size_t take = std::min(n, end_ - begin_);
     std::memcpy(out, buffer_ + begin_, take);
     begin_ += take;

@@ -1,10 +1,10 @@
 #include <lumora/platform/file.h>
 
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
 
 namespace lumora {
 namespace {

@@ -57,9 +57,7 @@ class TypedArray : public Object {
   static constexpr uint32_t kKeepGrowBy = 0xFFFFFFFF;
 
   TypedArray() = default;
-  TypedArray(const TypedArray& other) : Object(other), grow_by_(other.grow_by_) {
-    CopyFrom(other);
-  }
+  TypedArray(const TypedArray& other) : Object(other), grow_by_(other.grow_by_) { CopyFrom(other); }
   TypedArray& operator=(const TypedArray& other) {
     if (this != &other) {
       grow_by_ = other.grow_by_;
@@ -145,8 +143,8 @@ class TypedArray : public Object {
     uint32_t grow = grow_by_;
     if (grow == 0) grow = std::clamp<uint32_t>(size_ / 8, 4, 1024);
     uint64_t stepped = uint64_t{capacity_} + grow;
-    uint32_t new_capacity =
-        static_cast<uint32_t>(std::min<uint64_t>(std::max<uint64_t>(new_size, stepped), UINT32_MAX));
+    uint32_t new_capacity = static_cast<uint32_t>(
+        std::min<uint64_t>(std::max<uint64_t>(new_size, stepped), UINT32_MAX));
     auto fresh = std::make_unique<T[]>(new_capacity);
     std::copy(data_.get(), data_.get() + size_, fresh.get());
     data_ = std::move(fresh);
