@@ -1,0 +1,51 @@
+// Path helpers on narrow strings. Folder values always end in the platform separator; file
+// values never do. Nothing here keeps state or throws: failures are false or empty results.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace lumora {
+
+class Object;
+
+inline constexpr char kPathSeparator = '/';
+
+// The path with the platform separator appended unless it is empty or already ends in one.
+std::string WithBackslash(std::string_view path);
+
+bool FileExists(const std::string& path);
+bool FolderExists(const std::string& path);
+
+// Creates every missing folder of `path`; true when all of them exist afterwards. Existing
+// folders are left alone, so the call is repeatable. An absolute path starts at the file system
+// root; a path starting with two separators names a server share, which is tried as the first
+// folder (an existing share passes, a missing one fails); a relative path is created below the
+// current folder.
+bool CreateFolderPath(const std::string& path);
+
+// Folder of the module holding `address_in_module` (null: the host program), with separator.
+std::string ModuleFolder(const void* address_in_module = nullptr);
+
+std::string FolderOf(std::string_view path);
+std::string FileTitle(std::string_view path);
+std::string ExtensionOf(std::string_view path);
+// `extension` may be given with or without its leading dot.
+std::string ChangeExtension(std::string_view path, std::string_view extension);
+
+// base + the first suffix, in list order, that names an existing file; empty if none.
+std::string FirstExistingFile(const std::string& base, std::initializer_list<std::string_view> suffixes);
+
+// Stores `object` into (creating or truncating) or loads it from the file at `path` through an
+// archive with a 4096-byte buffer. False on any file or archive error; a partly loaded object
+// keeps what it read.
+bool LoadArchiveFile(const std::string& path, bool store, Object& object);
+
+// folder + prefix + n + "." + extension for the first n = 0, 1, 2, ... naming no existing file.
+// Null arguments take the defaults "tmp", the temporary folder and "~AT". Nothing is created,
+// so two callers can be given the same name.
+std::string UniqueFileName(const char* extension = nullptr, const char* folder = nullptr,
+                           const char* prefix = nullptr);
+
+}  // namespace lumora
