@@ -1,10 +1,12 @@
 # Newcomer entry points: `make demo` and `make test`. Everything builds into build/.
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
+FUZZ_BUILD ?= build-fuzz
+FUZZ_SECONDS ?= 30
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 DEMO_DIR   ?= demo-content
 
-.PHONY: all build configure demo test asan-test fuzz format clean
+.PHONY: all build configure demo test asan-test bench fuzz format format-check clean
 
 all: build
 
@@ -29,8 +31,26 @@ asan-test: $(ASAN_BUILD)/CMakeCache.txt
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(ASAN_BUILD) && ctest --output-on-failure -j $(JOBS)
 
+bench: build
+	@for b in $(BUILD)/bench/*_bench; do python3 bench/ratios.py $$b; done
+
+# Each fuzz target runs for FUZZ_SECONDS on an empty corpus; needs clang.
+fuzz:
+	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ \
+	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_targets
+	@for f in $(FUZZ_BUILD)/fuzz/*_fuzz; do \
+	  echo "fuzzing $$f for $(FUZZ_SECONDS) s"; \
+	  $$f -max_total_time=$(FUZZ_SECONDS) -max_len=4096 -rss_limit_mb=2048 > $$f.log 2>&1 \
+	    || { tail -n 40 $$f.log; exit 1; }; \
+	  tail -n 1 $$f.log; \
+	done
+
 format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
+format-check:
+	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(DEMO_DIR)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(DEMO_DIR)

@@ -70,11 +70,11 @@ TEST(TypedArray, GrowthRule) {
     uint32_t capacity;
   };
   const Case cases[] = {
-      {0, 1, 2, 5},           // an eighth of 1 is below 4: grow by 4
-      {0, 80, 81, 90},        // an eighth of 80
+      {0, 1, 2, 5},              // an eighth of 1 is below 4: grow by 4
+      {0, 80, 81, 90},           // an eighth of 80
       {0, 16000, 16001, 17024},  // capped at 1024
       {20, 1, 2, 21},
-      {2, 4, 100, 100},       // a jump beyond capacity + grow-by takes the new size
+      {2, 4, 100, 100},  // a jump beyond capacity + grow-by takes the new size
   };
   for (const auto& c : cases) {
     DWordArray a;

@@ -5,9 +5,9 @@
 #include <lumora/support/paths.h>
 
 #include <dlfcn.h>
-#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <filesystem>
 
 namespace lumora {
 namespace {

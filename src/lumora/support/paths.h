@@ -35,7 +35,8 @@ std::string ExtensionOf(std::string_view path);
 std::string ChangeExtension(std::string_view path, std::string_view extension);
 
 // base + the first suffix, in list order, that names an existing file; empty if none.
-std::string FirstExistingFile(const std::string& base, std::initializer_list<std::string_view> suffixes);
+std::string FirstExistingFile(const std::string& base,
+                              std::initializer_list<std::string_view> suffixes);
 
 // Stores `object` into (creating or truncating) or loads it from the file at `path` through an
 // archive with a 4096-byte buffer. False on any file or archive error; a partly loaded object
