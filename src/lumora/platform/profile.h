@@ -1,5 +1,5 @@
-// Reading and writing ini-style profile files the way the Windows private-profile functions
-// do: section names and keys compare ignoring case, the first matching section and the first
+// Reading and writing ini-style profile files with the host platform's private-profile rules:
+// section names and keys compare ignoring case, the first matching section and the first
 // matching key in it win, and lines that are neither headers nor key lines are kept but never
 // matched. The checksum list of the content tree is such a file. Every call reads the file
 // afresh; nothing is cached between calls.
