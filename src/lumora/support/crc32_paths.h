@@ -13,8 +13,9 @@ uint32_t Crc32Bytewise(const void* data, size_t n, uint32_t start);
 // Sixteen bytes per step through sixteen compile-time tables; portable.
 uint32_t Crc32Slicing(const void* data, size_t n, uint32_t start);
 
-// Carry-less multiplication folding (x86-64 with PCLMULQDQ and SSE4.1). Falls back to
-// Crc32Slicing where the instructions are missing, so it is always safe to call.
+// Carry-less multiplication folding (x86-64 with PCLMULQDQ and SSE4.1), 64 bytes per step.
+// Shorter buffers, and every buffer where the instructions are missing, go to Crc32Slicing,
+// so it is always safe to call.
 uint32_t Crc32Folding(const void* data, size_t n, uint32_t start);
 
 // Whether this processor runs Crc32Folding with carry-less multiplication.
