@@ -24,7 +24,7 @@ ShareFile::~ShareFile() { ShareFile::Close(); }
 
 bool ShareFile::Open(const std::string& path, uint32_t flags, FileError* error) {
   using namespace open_flags;
-  Close();
+  ShareFile::Close();  // not virtual: a derived Open has already begun its own state
   const bool writing = Writes(flags);
   if (!writing && !FileExists(path)) {
     if (error) *error = {ENOENT, "file not found"};
