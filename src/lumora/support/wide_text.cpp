@@ -101,7 +101,7 @@ void WideText::Serialize(Archive& ar) {
     ar.WriteU32(static_cast<uint32_t>(text.size()));
     std::vector<uint8_t> bytes(text.size() * 2);
     for (size_t i = 0; i < text.size(); ++i) EncodeU16(&bytes[2 * i], text[i]);
-    ar.Write(bytes.data(), bytes.size());
+    if (!bytes.empty()) ar.Write(bytes.data(), bytes.size());
     return;
   }
   uint32_t count = ar.ReadU32();
