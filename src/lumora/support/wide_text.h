@@ -42,7 +42,9 @@ class WideText : public Object {
   void Assign(std::u16string_view text);
 
   // Converts the narrow bytes before the first zero from the given code page (its low 16 bits).
+  // Control bytes stay controls: the ANSI code pages have no glyph forms for them.
   void FromNarrow(std::string_view narrow, uint32_t codePage);
+  // The whole text in the given code page, however many bytes that takes.
   std::string ToNarrow(uint32_t codePage) const;
 
   // The text becomes the formatted template (see wide_format.h for conversions and limits).
