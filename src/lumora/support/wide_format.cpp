@@ -6,7 +6,7 @@
 namespace lumora {
 namespace {
 
-struct Spec {
+struct Directive {
   bool left = false;
   bool zero = false;
   bool plus = false;
@@ -34,7 +34,7 @@ class Formatter {
         out_ += c;
         continue;
       }
-      Convert(ParseSpec());
+      Convert(ParseDirective());
     }
     return std::move(out_);
   }
@@ -61,61 +61,61 @@ class Formatter {
     return n;
   }
 
-  void ParseFlags(Spec& spec) {
+  void ParseFlags(Directive& directive) {
     for (;; ++pos_) {
       if (Peek(u'-')) {
-        spec.left = true;
+        directive.left = true;
       } else if (Peek(u'0')) {
-        spec.zero = true;
+        directive.zero = true;
       } else if (Peek(u'+')) {
-        spec.plus = true;
+        directive.plus = true;
       } else if (Peek(u' ')) {
-        spec.space = true;
+        directive.space = true;
       } else if (Peek(u'#')) {
-        spec.alternate = true;
+        directive.alternate = true;
       } else {
         return;
       }
     }
   }
 
-  void ParseWidth(Spec& spec) {
+  void ParseWidth(Directive& directive) {
     if (!Peek(u'*')) {
-      spec.width = ParseNumber();
+      directive.width = ParseNumber();
       return;
     }
     ++pos_;
     int width = NextIntArg();
     // A negative width from an argument means left alignment, as in printf.
-    if (width < 0) spec.left = true;
-    spec.width = static_cast<size_t>(width < 0 ? -static_cast<int64_t>(width) : width);
+    if (width < 0) directive.left = true;
+    directive.width = static_cast<size_t>(width < 0 ? -static_cast<int64_t>(width) : width);
   }
 
-  void ParsePrecision(Spec& spec) {
+  void ParsePrecision(Directive& directive) {
     if (!Peek(u'.')) return;
     ++pos_;
     if (!Peek(u'*')) {
-      spec.precision = static_cast<int>(ParseNumber());
+      directive.precision = static_cast<int>(ParseNumber());
       return;
     }
     ++pos_;
     int precision = NextIntArg();
-    spec.precision = precision < 0 ? -1 : precision;
+    directive.precision = precision < 0 ? -1 : precision;
   }
 
-  Spec ParseSpec() {
-    Spec spec;
-    ParseFlags(spec);
-    ParseWidth(spec);
-    ParsePrecision(spec);
+  Directive ParseDirective() {
+    Directive directive;
+    ParseFlags(directive);
+    ParseWidth(directive);
+    ParsePrecision(directive);
     while (Peek(u'h') || Peek(u'l')) ++pos_;
     if (pos_ >= pattern_.size()) Fail("template ends inside a conversion");
-    spec.conversion = pattern_[pos_++];
-    return spec;
+    directive.conversion = pattern_[pos_++];
+    return directive;
   }
 
-  void Convert(const Spec& spec) {
-    switch (spec.conversion) {
+  void Convert(const Directive& directive) {
+    switch (directive.conversion) {
       case u'%':
         out_ += u'%';
         return;
@@ -124,11 +124,11 @@ class Formatter {
       case u'u':
       case u'x':
       case u'X':
-        return Integer(spec, NextArg());
+        return Integer(directive, NextArg());
       case u'c':
-        return Character(spec, NextArg());
+        return Character(directive, NextArg());
       case u's':
-        return Text(spec, NextArg());
+        return Text(directive, NextArg());
       default:
         Fail("unsupported conversion");
     }
@@ -139,56 +139,57 @@ class Formatter {
   }
 
   // Places body (after prefix) in the field, honouring "-" and the given fill.
-  void Field(const Spec& spec, std::u16string_view prefix, std::u16string_view body,
+  void Field(const Directive& directive, std::u16string_view prefix, std::u16string_view body,
              bool zero_fill) {
     size_t used = prefix.size() + body.size();
-    if (spec.left) {
+    if (directive.left) {
       out_.append(prefix).append(body);
-      Pad(used, spec.width, u' ');
+      Pad(used, directive.width, u' ');
     } else if (zero_fill) {
       out_.append(prefix);
-      Pad(used, spec.width, u'0');
+      Pad(used, directive.width, u'0');
       out_.append(body);
     } else {
-      Pad(used, spec.width, u' ');
+      Pad(used, directive.width, u' ');
       out_.append(prefix).append(body);
     }
   }
 
   // The sign of a signed conversion, or the "0x" of an alternate hexadecimal one.
-  static std::u16string_view Prefix(const Spec& spec, bool negative, uint64_t magnitude) {
-    switch (spec.conversion) {
+  static std::u16string_view Prefix(const Directive& directive, bool negative, uint64_t magnitude) {
+    switch (directive.conversion) {
       case u'd':
       case u'i':
         if (negative) return u"-";
-        if (spec.plus) return u"+";
-        return spec.space ? u" " : u"";
+        if (directive.plus) return u"+";
+        return directive.space ? u" " : u"";
       case u'x':
-        return spec.alternate && magnitude != 0 ? u"0x" : u"";
+        return directive.alternate && magnitude != 0 ? u"0x" : u"";
       case u'X':
-        return spec.alternate && magnitude != 0 ? u"0X" : u"";
+        return directive.alternate && magnitude != 0 ? u"0X" : u"";
       default:
         return u"";
     }
   }
 
-  void Integer(const Spec& spec, const FormatArg& arg) {
+  void Integer(const Directive& directive, const FormatArg& arg) {
     if (arg.is_text()) Fail("text given for an integer conversion");
-    bool is_signed = spec.conversion == u'd' || spec.conversion == u'i';
-    bool hex = spec.conversion == u'x' || spec.conversion == u'X';
+    bool is_signed = directive.conversion == u'd' || directive.conversion == u'i';
+    bool hex = directive.conversion == u'x' || directive.conversion == u'X';
     int64_t value = arg.AsSigned();
     bool negative = is_signed && value < 0;
     uint64_t magnitude = !is_signed ? arg.AsUnsigned()
                          : negative ? 0 - static_cast<uint64_t>(value)
                                     : static_cast<uint64_t>(value);
-    std::u16string digits = Digits(magnitude, hex, spec.conversion == u'X');
-    if (spec.precision >= 0) {
+    std::u16string digits = Digits(magnitude, hex, directive.conversion == u'X');
+    if (directive.precision >= 0) {
       // An explicit precision is a minimum digit count; precision 0 prints zero as nothing.
-      if (spec.precision == 0 && magnitude == 0) digits.clear();
-      size_t wanted = static_cast<size_t>(spec.precision);
+      if (directive.precision == 0 && magnitude == 0) digits.clear();
+      size_t wanted = static_cast<size_t>(directive.precision);
       if (digits.size() < wanted) digits.insert(0, wanted - digits.size(), u'0');
     }
-    Field(spec, Prefix(spec, negative, magnitude), digits, spec.zero && spec.precision < 0);
+    Field(directive, Prefix(directive, negative, magnitude), digits,
+          directive.zero && directive.precision < 0);
   }
 
   static std::u16string Digits(uint64_t value, bool hex, bool upper) {
@@ -203,17 +204,17 @@ class Formatter {
     return digits;
   }
 
-  void Character(const Spec& spec, const FormatArg& arg) {
+  void Character(const Directive& directive, const FormatArg& arg) {
     if (arg.is_text()) Fail("text given for %c");
     char16_t unit = static_cast<char16_t>(arg.AsUnsigned());
-    Field(spec, {}, std::u16string_view(&unit, 1), false);
+    Field(directive, {}, std::u16string_view(&unit, 1), false);
   }
 
-  void Text(const Spec& spec, const FormatArg& arg) {
+  void Text(const Directive& directive, const FormatArg& arg) {
     if (!arg.is_text()) Fail("number given for %s");
     std::u16string_view text = arg.text();
-    if (spec.precision >= 0) text = text.substr(0, static_cast<size_t>(spec.precision));
-    Field(spec, {}, text, false);
+    if (directive.precision >= 0) text = text.substr(0, static_cast<size_t>(directive.precision));
+    Field(directive, {}, text, false);
   }
 
   std::u16string_view pattern_;
