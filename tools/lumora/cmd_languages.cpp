@@ -1,0 +1,50 @@
+// `lumora languages [--json]`: the language table, one row per language number.
+#include <lumora/support/language_table.h>
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+
+#include "commands.h"
+
+namespace lumora::cli {
+namespace {
+
+void PrintJson() {
+  nlohmann::json rows = nlohmann::json::array();
+  for (unsigned number = 0; number < kLanguageCount; ++number) {
+    const LanguageInfo& row = LanguageRow(number);
+    rows.push_back({{"number", number},
+                    {"name", row.name},
+                    {"code", row.code},
+                    {"charset", row.charset},
+                    {"leftToRight", row.leftToRight},
+                    {"codePage", row.codePage},
+                    {"langId", row.langId}});
+  }
+  std::cout << rows.dump(2) << '\n';
+}
+
+void PrintTable() {
+  std::printf("%-6s %-16s %-4s %7s %3s %8s %6s\n", "number", "name", "code", "charset", "ltr",
+              "codepage", "langid");
+  for (unsigned number = 0; number < kLanguageCount; ++number) {
+    const LanguageInfo& row = LanguageRow(number);
+    std::printf("%6u %-16s %-4s %7u %3u %8u 0x%04X\n", number, row.name, row.code, row.charset,
+                row.leftToRight, row.codePage, row.langId);
+  }
+}
+
+void AddLanguagesCommand(CLI::App& app) {
+  auto* command = app.add_subcommand("languages", "List the language table");
+  auto json = std::make_shared<bool>(false);
+  command->add_flag("--json", *json, "Print JSON instead of a table");
+  command->callback([json] { *json ? PrintJson() : PrintTable(); });
+}
+
+const CommandRegistration reg{"languages", &AddLanguagesCommand};
+
+}  // namespace
+}  // namespace lumora::cli
