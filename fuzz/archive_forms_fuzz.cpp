@@ -4,6 +4,7 @@
 #include <lumora/platform/keyed_table.h>
 #include <lumora/platform/stream.h>
 #include <lumora/platform/typed_array.h>
+#include <lumora/support/wide_text.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -35,7 +36,7 @@ void Load(const uint8_t* data, size_t size) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size == 0) return 0;
-  const uint8_t selector = data[0] % 5;
+  const uint8_t selector = data[0] % 6;
   ++data;
   --size;
   switch (selector) {
@@ -50,6 +51,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
       break;
     case 3:
       Load<lumora::KeyedTable<Entry>>(data, size);
+      break;
+    case 4:
+      Load<lumora::CodePageText>(data, size);
       break;
     default: {
       lumora::KeyedTable<Entry> table;

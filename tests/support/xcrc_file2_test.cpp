@@ -42,7 +42,8 @@ class CrcFileTest : public ::testing::Test {
     EXPECT_TRUE(file.Open(path, kRead | kBinary));
     char buffer[7];
     size_t total = 0;
-    for (size_t got; total < limit && (got = file.Read(buffer, std::min(sizeof buffer, limit - total))) > 0;) {
+    for (size_t got;
+         total < limit && (got = file.Read(buffer, std::min(sizeof buffer, limit - total))) > 0;) {
       total += got;
     }
     bool good = file.IsGood();

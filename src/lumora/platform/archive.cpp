@@ -33,6 +33,7 @@ void Archive::Read(void* buffer, size_t n) {
 }
 
 void Archive::Write(const void* buffer, size_t n) {
+  if (n == 0) return;
   const auto* in = static_cast<const uint8_t*>(buffer);
   if (n >= kBufferSize) {
     Flush();

@@ -4,10 +4,10 @@
 #include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
 
+#include <sys/stat.h>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/stat.h>
 
 namespace lumora {
 namespace {
