@@ -69,7 +69,7 @@ void ShareFile::Close() {
 size_t ShareFile::Read(void* buffer, size_t n) {
   auto* out = static_cast<uint8_t*>(buffer);
   size_t done = std::min(n, read_buffer_.size() - read_pos_);
-  std::memcpy(out, read_buffer_.data() + read_pos_, done);
+  if (done > 0) std::memcpy(out, read_buffer_.data() + read_pos_, done);
   read_pos_ += done;
   if (done < n) done += file_.Read(out + done, n - done);
   return done;
