@@ -47,7 +47,7 @@ fuzz:
 	done
 
 format:
-	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	git ls-files -co --exclude-standard '*.h' '*.cpp' | xargs clang-format -i
 
 format-check:
 	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror

@@ -2,11 +2,11 @@
 #include <lumora/platform/profile.h>
 #include <lumora/support/profile_file.h>
 
+#include <unistd.h>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <string>
-#include <unistd.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static const std::string path = "/tmp/lumora-profile-fuzz-" + std::to_string(::getpid()) + ".ini";
