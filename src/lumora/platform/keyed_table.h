@@ -7,9 +7,11 @@
 #pragma once
 
 #include <lumora/platform/archive.h>
+#include <lumora/platform/key_search.h>
 #include <lumora/platform/object.h>
 #include <lumora/platform/typed_array.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -34,26 +36,7 @@ class KeyedTable : public Object {
   // duplicate keys the entry found depends on where the bisection lands; unsorted tables
   // give the first entry added.
   std::optional<uint32_t> IndexOf(uint32_t key) const {
-    const uint32_t n = std::min(size(), keys_.size());
-    if (!sorted_) {
-      for (uint32_t i = 0; i < n; ++i) {
-        if (keys_[i] == key) return i;
-      }
-      return std::nullopt;
-    }
-    if (n == 0) return std::nullopt;
-    uint32_t lo = 0, hi = n - 1;
-    while (hi - lo > 1) {
-      uint32_t mid = lo + (hi - lo) / 2;
-      if (key > keys_[mid]) {
-        lo = mid;
-      } else {
-        hi = mid;
-      }
-    }
-    if (keys_[lo] == key) return lo;
-    if (keys_[hi] == key) return hi;
-    return std::nullopt;
+    return FindKeyIndex(keys_, std::min(size(), keys_.size()), key, sorted_);
   }
 
   T* Find(uint32_t key) const {

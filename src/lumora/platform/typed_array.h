@@ -26,6 +26,13 @@ struct ElementCodec<uint8_t> {
 };
 
 template <>
+struct ElementCodec<uint16_t> {
+  static constexpr uint32_t kSize = 2;
+  static uint16_t Decode(const uint8_t* p) { return DecodeU16(p); }
+  static void Encode(uint8_t* p, uint16_t v) { EncodeU16(p, v); }
+};
+
+template <>
 struct ElementCodec<uint32_t> {
   static constexpr uint32_t kSize = 4;
   static uint32_t Decode(const uint8_t* p) { return DecodeU32(p); }
@@ -166,6 +173,7 @@ class TypedArray : public Object {
 };
 
 using ByteArray = TypedArray<uint8_t>;
+using WordArray = TypedArray<uint16_t>;
 using DWordArray = TypedArray<uint32_t>;
 using Record8 = RawRecord<8>;
 using Record16 = RawRecord<16>;

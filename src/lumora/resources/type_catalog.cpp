@@ -1,0 +1,54 @@
+#include <lumora/resources/index_forms.h>
+#include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/type1005_index.h>
+
+#include <algorithm>
+
+namespace lumora {
+
+bool IsExerciseType(uint32_t type) {
+  return std::find(kExerciseTypes.begin(), kExerciseTypes.end(), type) != kExerciseTypes.end();
+}
+
+std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
+  using enum UsageFlag;
+  switch (type) {
+    case 1:
+    case 4:
+    case 10:
+    case 14:
+    case 16:
+    case 17:
+    case 18:
+    case 19:
+    case 20:
+      return std::make_unique<GroupsIndex>();
+    case 2:
+    case 7:
+      return std::make_unique<UsageIndex<uint16_t, kAlwaysTrue>>();
+    case 5:
+      return std::make_unique<UsageIndex<uint16_t, kTopByte>>();
+    case 3:
+    case 9:
+      return std::make_unique<UsageIndex<uint8_t, kAlwaysTrue>>();
+    case 8:
+    case 12:
+    case 13:
+    case 15:
+    case 28:
+      return std::make_unique<UsageIndex<uint8_t, kTopByte>>();
+    case 40:
+      return std::make_unique<UsageIndex<uint32_t, kTopByte>>();
+    case 1005:
+      return std::make_unique<Type1005Index>();
+    case 1006:
+      return std::make_unique<PlainNumberIndex>();
+    case 2000:
+      return std::make_unique<Type2000Index>();
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace lumora

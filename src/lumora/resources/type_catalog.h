@@ -1,0 +1,28 @@
+// The exercise types the library knows, the order in which a discipline loads their index
+// files, and the index class of each type.
+#pragma once
+
+#include <lumora/resources/type_index.h>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+namespace lumora {
+
+inline constexpr std::array<uint32_t, 26> kExerciseTypes = {
+    1,  2,  3,  4,  5,  7,  8,  9,  10,   12,   13,   14,   15,
+    16, 17, 18, 19, 20, 21, 28, 40, 1003, 1005, 1006, 1010, 2000};
+
+// Index files are loaded in this order when a discipline opens.
+inline constexpr std::array<uint32_t, 26> kIndexLoadOrder = {
+    1,  2,  3,  4,  5,  7,  8,  9,  10,   12,   13,   14,   15,
+    16, 17, 18, 19, 20, 21, 28, 40, 1010, 1006, 1003, 2000, 1005};
+
+bool IsExerciseType(uint32_t type);
+
+// A fresh, empty index object of the type's class; null for a number that is not a type and
+// for the types whose index form is not read yet (21, 1003, 1010).
+std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type);
+
+}  // namespace lumora
