@@ -15,6 +15,7 @@ inline constexpr char kPathSeparator = '/';
 // The path with the platform separator appended unless it is empty or already ends in one.
 std::string WithBackslash(std::string_view path);
 
+// True for a regular file only: folders, devices and pipes do not count.
 bool FileExists(const std::string& path);
 bool FolderExists(const std::string& path);
 
