@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "fixtures/archive_bytes.h"
 
 namespace lumora {
@@ -79,6 +81,26 @@ TEST(KeyedTable, EmptyTableAndClear) {
   EXPECT_EQ(table.Find(1), nullptr);
   EXPECT_EQ(testing::StoreObject(table), Concat({U32(0), {1}}));
   table.RemoveKey(1);  // absent key: nothing happens
+}
+
+TEST(KeyedTable, ClearDestroysInTableOrder) {
+  struct Logged : Object {
+    std::vector<int>* log = nullptr;
+    int id = 0;
+    ~Logged() override {
+      if (log) log->push_back(id);
+    }
+  };
+  std::vector<int> log;
+  KeyedTable<Logged> table;
+  for (int id : {3, 1, 2}) {
+    auto object = std::make_unique<Logged>();
+    object->log = &log;
+    object->id = id;
+    table.Add(static_cast<uint32_t>(id), std::move(object));
+  }
+  table.Clear();
+  EXPECT_EQ(log, (std::vector<int>{3, 1, 2}));
 }
 
 TEST(KeyedTable, StoreWritesCountFlagKeysThenElements) {

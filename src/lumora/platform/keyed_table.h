@@ -57,7 +57,10 @@ class KeyedTable : public Object {
     objects_.erase(objects_.begin() + *i);
   }
 
+  // Destroys the objects in table order (a plain vector clear leaves the order to the standard
+  // library), then empties both arrays and marks the empty table sorted.
   void Clear() {
+    for (auto& object : objects_) object.reset();
     objects_.clear();
     keys_.RemoveAll();
     sorted_ = true;
