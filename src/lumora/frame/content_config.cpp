@@ -1,0 +1,66 @@
+#include <lumora/frame/content_config.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/support/paths.h>
+
+#include <cstdio>
+
+namespace lumora {
+
+std::string NormalizedRoot(std::string_view content_root) { return WithBackslash(content_root); }
+
+std::string ContentIniPath(const std::string& root) { return root + "Content.ini"; }
+
+std::string DisciplineSectionName(uint32_t n) {
+  char name[16];
+  std::snprintf(name, sizeof name, "%03u", n);
+  return name;
+}
+
+std::string DisciplineFolder(uint32_t id) {
+  // The identifier is printed as the signed number the configuration holds.
+  char name[16];
+  std::snprintf(name, sizeof name, "D%03d", static_cast<int32_t>(id));
+  return name + std::string(1, kPathSeparator);
+}
+
+std::string ClassesFolder(const std::string& common_local) { return common_local + "Classes"; }
+
+std::string LexiconFolder(const std::string& local_root, uint32_t number) {
+  return local_root + CourseFolderName(0) + kPathSeparator + NumberedName('r', number);
+}
+
+std::string ReadFolder(ProfileFile& ini, const char* key) {
+  return WithBackslash(ini.GetString(key));
+}
+
+std::string ValueOr(std::string value, const std::string& fallback) {
+  return value.empty() ? fallback : value;
+}
+
+CommonRoots ReadCommonRoots(ProfileFile& ini, const std::string& root) {
+  CommonRoots roots;
+  if (ini.FindSection("Common")) {
+    roots.local = ReadFolder(ini, "Local");
+    roots.unc = ReadFolder(ini, "UNC");
+    roots.url = ini.GetString("URL");
+  }
+  roots.local = ValueOr(roots.local, root);
+  roots.unc = ValueOr(roots.unc, root);
+  roots.url = ValueOr(roots.url, root);
+  return roots;
+}
+
+std::string ReadCommonLocal(ProfileFile& ini, const std::string& root) {
+  return ValueOr(ini.FindSection("Common") ? ReadFolder(ini, "Local") : std::string(), root);
+}
+
+uint32_t ReadDisciplineId(ProfileFile& ini) {
+  return static_cast<uint32_t>(ini.GetInt("Discipline"));
+}
+
+void ReadTypeAndParam(ProfileFile& ini, DisciplineInfo& info) {
+  info.Type = static_cast<uint8_t>(ini.GetInt("Type"));
+  info.Param = ini.GetInt("Param");
+}
+
+}  // namespace lumora

@@ -1,0 +1,29 @@
+#include <lumora/frame/content_config.h>
+#include <lumora/frame/discipline.h>
+
+namespace lumora {
+
+void Discipline::Open(ProfileFile& ini, const std::string& content_root,
+                      const std::string& common_local, const std::string& folder) {
+  ReadTypeAndParam(ini, info);
+  const std::string fallback = content_root + folder;
+  localRoot = ValueOr(ReadFolder(ini, "Local"), fallback);
+  uncRoot = ValueOr(ReadFolder(ini, "UNC"), fallback);
+  urlRoot = ValueOr(ini.GetString("URL"), fallback);
+  dataFolder = common_local + folder;
+  resourceIndex = std::make_unique<ResourceIndex>(dataFolder);
+  if (auto* descriptions = dynamic_cast<Type2000Index*>(resourceIndex->FindType(2000))) {
+    descriptions->CollectGroupKeys(info.values);
+    descriptions->CopyEntries(0, type2000Table);
+  }
+}
+
+void Discipline::LoadLexicon(Classification& classification) {
+  // A missing glossary or grammar leaves it empty; queries then find nothing in it.
+  glossary.load(LexiconFolder(localRoot, 1001));
+  if (glossary.classification == nullptr) glossary.classification = &classification;
+  glossary.language = static_cast<uint8_t>(info.Param);
+  grammar.load(LexiconFolder(localRoot, 1002));
+}
+
+}  // namespace lumora

@@ -1,0 +1,56 @@
+// Everything the library holds for one open discipline: its roots and data folder, its
+// description record, glossary and grammar, a copy of its description entries and its
+// resource index. The host shares the layout, so the members keep this order; reverse
+// declaration order is also the order in which the destructor releases them.
+#pragma once
+
+#include <lumora/frame/discipline_info.h>
+#include <lumora/lexicon/glossary.h>
+#include <lumora/lexicon/grammar.h>
+#include <lumora/platform/keyed_table.h>
+#include <lumora/resources/resource_index.h>
+#include <lumora/resources/type2000_index.h>
+#include <lumora/support/profile_file.h>
+
+#include <memory>
+#include <string>
+
+namespace lumora {
+
+class Classification;
+// Made by the package-database open and by the diagnosis bridge, which are not part of the
+// library yet: the pointers stay null and only hold their places in the layout.
+class DatabaseConnection;
+class CLessonsData;
+class CTestableData;
+
+class Discipline : public Object {
+ public:
+  const char* ClassName() const override { return "Discipline"; }
+
+  // The part of opening that every configured section gets, with `ini` in the discipline's
+  // section: Type and Param, the three roots (each falling back to content_root + folder),
+  // the data folder below common_local, the resource index and the description entries.
+  void Open(ProfileFile& ini, const std::string& content_root, const std::string& common_local,
+            const std::string& folder);
+  // The rest, for a discipline that stays open: glossary and grammar from course 0 below the
+  // local root, the glossary pointed at `classification` and given the language of Param.
+  void LoadLexicon(Classification& classification);
+
+  DatabaseConnection* database = nullptr;
+  DisciplineInfo info;
+  std::string localRoot;
+  std::string uncRoot;
+  std::string urlRoot;
+  std::string dataFolder;
+  CGloV6 glossary;
+  CGramV6 grammar;
+  KeyedTable<Type2000Entry> type2000Table;
+  // Released by the close (or the drop of a discipline that is not opened) before the
+  // discipline itself goes.
+  std::unique_ptr<ResourceIndex> resourceIndex;
+  CLessonsData* lessons = nullptr;
+  CTestableData* testable = nullptr;
+};
+
+}  // namespace lumora

@@ -1,0 +1,75 @@
+#include <lumora/frame/boundary.h>
+#include <lumora/frame/content_config.h>
+#include <lumora/frame/library_state.h>
+#include <lumora/lumora.h>
+#include <lumora/platform/com_apartment.h>
+#include <lumora/support/profile_file.h>
+
+#include <memory>
+
+namespace lumora {
+namespace {
+
+// What a discipline's destructor leaves to the close: its resource index.
+void ReleaseIndex(Discipline& discipline) { discipline.resourceIndex.reset(); }
+
+// Registers the discipline of the current section and opens it. One whose Type is not 0 is
+// dropped again by its identifier; with a duplicate identifier that drops the discipline
+// registered first, as every other lookup by identifier would find that one.
+void OpenDiscipline(ProfileFile& ini, const std::string& root, uint32_t id) {
+  LibraryState& library = Library();
+  auto owned = std::make_unique<Discipline>();
+  Discipline& discipline = *owned;
+  library.registry.Add(id, std::move(owned));
+  discipline.Open(ini, root, library.commonLocal, DisciplineFolder(id));
+  if (discipline.info.Type != 0) {
+    ReleaseIndex(discipline);
+    library.registry.RemoveKey(id);
+    return;
+  }
+  discipline.LoadLexicon(library.classification);
+}
+
+bool Open(const char* content_root, uint32_t filter) {
+  // Every open leaves one initialisation for the close to balance, whatever its outcome.
+  ComInitialize();
+  if (content_root == nullptr) return false;
+  const std::string root = NormalizedRoot(content_root);
+  ProfileFile ini;
+  if (!ini.Load(ContentIniPath(root))) return false;
+
+  LibraryState& library = Library();
+  CommonRoots common = ReadCommonRoots(ini, root);
+  library.commonLocal = std::move(common.local);
+  library.commonUNC = std::move(common.unc);
+  library.commonURL = std::move(common.url);
+  library.classification.load(ClassesFolder(library.commonLocal));
+
+  for (uint32_t n = 1; ini.FindSection(DisciplineSectionName(n)); ++n) {
+    const uint32_t id = ReadDisciplineId(ini);
+    if (filter != 0 && id != filter) continue;
+    OpenDiscipline(ini, root, id);
+  }
+  return library.registry.size() > 0;
+}
+
+void Close() {
+  LibraryState& library = Library();
+  library.classification.Clear();
+  for (uint32_t i = 0; i < library.registry.size(); ++i) {
+    if (Discipline* discipline = library.registry.ObjectAt(i)) ReleaseIndex(*discipline);
+  }
+  library.registry.Clear();
+  ComUninitialize();
+}
+
+}  // namespace
+}  // namespace lumora
+
+bool lmOpen(const char* contentRoot, uint32_t disciplineFilter) {
+  return lumora::Guarded(false, [&] { return lumora::Open(contentRoot, disciplineFilter); });
+}
+
+void lmClose() {
+  lumora::Guarded([] { lumora::Close(); });
+}

@@ -1,0 +1,65 @@
+#include <lumora/frame/boundary.h>
+#include <lumora/frame/library_state.h>
+#include <lumora/lumora.h>
+#include <lumora/resources/resource_files.h>
+
+namespace lumora {
+namespace {
+
+Discipline* DisciplineOf(const ContentRequest* request) {
+  return request ? FindDiscipline(request->disciplineId) : nullptr;
+}
+
+ResourceIndex* ResourceInfos(const ContentRequest* request) {
+  Discipline* discipline = DisciplineOf(request);
+  return discipline ? discipline->resourceIndex.get() : nullptr;
+}
+
+bool GetResource(const ContentRequest* request, uint32_t resource_id, ExerciseResource* resource,
+                 bool fill_media) {
+  Discipline* discipline = DisciplineOf(request);
+  if (discipline == nullptr || resource == nullptr) return false;
+  return LoadResource(discipline->localRoot, ChosenRoot(*discipline, request->pathKind), *request,
+                      resource_id, *resource, fill_media);
+}
+
+bool GetMediaPath(const ContentRequest* request, MediaRef& media, std::string* path) {
+  Discipline* discipline = DisciplineOf(request);
+  if (discipline == nullptr || path == nullptr) return false;
+  if (!media.BuildPath(discipline->localRoot, request->pathKind,
+                       ChosenRoot(*discipline, request->pathKind), request->selector())) {
+    return false;
+  }
+  *path = media.path;
+  return true;
+}
+
+std::string PathInfos(const ContentRequest* request) {
+  Discipline* discipline = DisciplineOf(request);
+  return discipline ? discipline->dataFolder : Library().commonLocal;
+}
+
+}  // namespace
+}  // namespace lumora
+
+lumora::ResourceIndex* lmGetResourceInfos(const lumora::ContentRequest* request) {
+  return lumora::Guarded<lumora::ResourceIndex*>(nullptr,
+                                                 [&] { return lumora::ResourceInfos(request); });
+}
+
+bool lmGetResource(const lumora::ContentRequest* request, uint32_t resourceId,
+                   lumora::ExerciseResource* resource, bool fillMedia) {
+  return lumora::Guarded(
+      false, [&] { return lumora::GetResource(request, resourceId, resource, fillMedia); });
+}
+
+bool lmGetMediaPath(const lumora::ContentRequest* request, lumora::MediaRef media,
+                    std::string* path) {
+  return lumora::Guarded(false, [&] { return lumora::GetMediaPath(request, media, path); });
+}
+
+std::string lmGetPathInfos(const lumora::ContentRequest* request) {
+  return lumora::Guarded(std::string(), [&] { return lumora::PathInfos(request); });
+}
+
+lumora::Classification* lmGetClassification() { return &lumora::Library().classification; }

@@ -1,0 +1,69 @@
+// The host's one include: every entry point of the library, with plain C linkage. The host and
+// the library share the classes of the arguments and results (they are declared in the headers
+// below), and objects that cross in either direction go through their virtual destructors.
+//
+// Results that point into the library (resource index, classification) stay valid until
+// lmClose and are never freed by the host. No entry point lets an exception out: failures are
+// false, null or an empty string.
+#pragma once
+
+#include <lumora/frame/discipline_info.h>
+#include <lumora/lexicon/classification.h>
+#include <lumora/platform/keyed_table.h>
+#include <lumora/resources/content_request.h>
+#include <lumora/resources/exercise_resource.h>
+#include <lumora/resources/media_ref.h>
+#include <lumora/resources/resource_index.h>
+
+#include <cstdint>
+#include <string>
+
+#if defined(_WIN32)
+#if defined(LUMORA_BUILDING)
+#define LUMORA_EXPORT __declspec(dllexport)
+#else
+#define LUMORA_EXPORT __declspec(dllimport)
+#endif
+#else
+#define LUMORA_EXPORT __attribute__((visibility("default")))
+#endif
+
+// The entry points take and return C++ classes by value; both sides are built against these
+// headers, so the C linkage only fixes the names.
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
+#endif
+
+extern "C" {
+
+// Opens every discipline that contentRoot's Content.ini configures (only the one with
+// identifier disciplineFilter unless it is 0). A second open without a close registers the
+// disciplines again behind the first ones. True when at least one discipline is registered.
+LUMORA_EXPORT bool lmOpen(const char* contentRoot, uint32_t disciplineFilter);
+// Releases every discipline and empties the classification; the common roots stay.
+LUMORA_EXPORT void lmClose();
+
+// Fills `list` (emptied first) with one record per configured section, whatever its Type,
+// reading Content.ini itself; the registry is not involved.
+LUMORA_EXPORT bool lmGetDisciplines(const char* contentRoot,
+                                    lumora::KeyedTable<lumora::DisciplineInfo>* list);
+// The resource index of the request's discipline, or null.
+LUMORA_EXPORT lumora::ResourceIndex* lmGetResourceInfos(const lumora::ContentRequest* request);
+// Reads resource `resourceId` into `resource`, whose class names the exercise type; with
+// fillMedia its media paths are resolved for the request's path kind.
+LUMORA_EXPORT bool lmGetResource(const lumora::ContentRequest* request, uint32_t resourceId,
+                                 lumora::ExerciseResource* resource, bool fillMedia);
+// The URL or UNC path of one medium; false, with `path` untouched, when it is not found or the
+// request asks for local paths.
+LUMORA_EXPORT bool lmGetMediaPath(const lumora::ContentRequest* request, lumora::MediaRef media,
+                                  std::string* path);
+// The data folder of the request's discipline; the common Local root when there is none.
+LUMORA_EXPORT std::string lmGetPathInfos(const lumora::ContentRequest* request);
+LUMORA_EXPORT lumora::Classification* lmGetClassification();
+
+}  // extern "C"
+
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
