@@ -3,6 +3,8 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>
 
+#include <stdexcept>
+
 #include "frame/content_tree.h"
 
 namespace lumora {
@@ -144,6 +146,23 @@ TEST_F(Queries, HiddenTwinOfAResourceWins) {
   ASSERT_TRUE(lmGetResource(&request, id, &resource, true));
   EXPECT_EQ(resource.group, 2);
   EXPECT_EQ(resource.resolved, local() + " | " + local() + " | 0");
+}
+
+// A host class whose own code throws: whatever it throws stays inside the library.
+class ThrowingResource : public NoteResource {
+ public:
+  void ResolveMedia(const ContentRequest&, const std::string&, const std::string&) override {
+    throw std::runtime_error("host failure");
+  }
+};
+
+TEST_F(Queries, ExceptionsOfTheHostsClassesNeverLeave) {
+  const uint32_t id = MakeResourceId(0, 12);
+  WriteResource(id, 1, "ars");
+  const ContentRequest request = Request(kPathUrl);
+  ThrowingResource resource;
+  EXPECT_FALSE(lmGetResource(&request, id, &resource, true));
+  EXPECT_TRUE(lmGetResource(&request, id, &resource, false));
 }
 
 }  // namespace
