@@ -55,14 +55,9 @@ class UsageIndex : public GroupsIndex {
     }
   }
 
-  // Appends or replaces the usage value of a resource number.
-  void SetUsage(uint32_t number, Value value) {
-    for (uint32_t i = 0; i < usageKeys.size(); ++i) {
-      if (usageKeys[i] == number) {
-        usageValues[i] = value;
-        return;
-      }
-    }
+  // Appends the usage value of a resource number. A number found in two course folders is
+  // added twice, as its groups list it twice; lookups answer from the first.
+  void AddUsage(uint32_t number, Value value) {
     usageKeys.Add(number);
     usageValues.Add(value);
   }

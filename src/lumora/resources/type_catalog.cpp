@@ -1,7 +1,10 @@
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type40.h>
 
 #include <algorithm>
 
@@ -48,6 +51,29 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
       return std::make_unique<Type2000Index>();
     default:
       return nullptr;
+  }
+}
+
+std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
+  switch (type) {
+    case Type40Resource::kType:
+      return std::make_unique<Type40Resource>();
+    case kContentElementType:
+      return std::make_unique<ContentElement>();
+    default:
+      return nullptr;
+  }
+}
+
+bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
+                    const std::string& index_folder) {
+  switch (type) {
+    case Type40Resource::kType:
+      return BuildType40Index(resource_root, index_folder);
+    case kContentElementType:
+      return BuildType1005Index(resource_root, index_folder);
+    default:
+      return false;
   }
 }
 

@@ -2,11 +2,13 @@
 // files, and the index class of each type.
 #pragma once
 
+#include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/type_index.h>
 
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace lumora {
 
@@ -24,5 +26,15 @@ bool IsExerciseType(uint32_t type);
 // A fresh, empty index object of the type's class; null for a number that is not a type and
 // for the types whose index form is not read yet (21, 1003, 1010).
 std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type);
+
+// A fresh, empty resource object of the type's class; null for the types whose class is not
+// written yet and for numbers that are not types.
+std::unique_ptr<ExerciseResource> NewResource(uint32_t type);
+
+// Rescans the type's resource files below resource_root and rewrites its index file in
+// index_folder. False when a file could not be read or written, and for the types that have
+// no rebuild yet.
+bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
+                    const std::string& index_folder);
 
 }  // namespace lumora

@@ -1,0 +1,17 @@
+// Index rebuilds: each scans the resource files of its type below resource_root and rewrites
+// index_folder + "r%07d.ari". Unreadable resource files are skipped and make the result false;
+// so does an index file that cannot be written.
+#pragma once
+
+#include <string>
+
+namespace lumora {
+
+bool BuildType1005Index(const std::string& resource_root, const std::string& index_folder);
+
+// Rebuilds and reloads the type-1005 index first, since its usage values come from the
+// elements that its items refer to; false without writing anything when that index cannot be
+// read back.
+bool BuildType40Index(const std::string& resource_root, const std::string& index_folder);
+
+}  // namespace lumora

@@ -1,0 +1,75 @@
+#include <lumora/resources/index_forms.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/resources/resource_index.h>
+#include <lumora/resources/resource_scan.h>
+#include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type40.h>
+#include <lumora/support/paths.h>
+
+namespace lumora {
+namespace {
+
+using Type40Index = UsageIndex<uint32_t, UsageFlag::kTopByte>;
+
+// Flags A and B of the elements the parts refer to, examined part by part, first parts before
+// second parts: every entry found overwrites both, and once both are 0 nothing can change them
+// back. A reference missing from the index clears `result`; lookups are made only while
+// `result` holds, so after a failure every later resource keeps both flags at 1.
+void ReadElementFlags(const Type40Resource& resource, const Type1005Index& elements, bool& result,
+                      uint8_t& a, uint8_t& b) {
+  a = b = 1;
+  for (auto& item : resource.items) {
+    for (ItemPart* part : item->Parts()) {
+      for (auto& element : part->elements) {
+        if (!result || (a == 0 && b == 0)) return;
+        const Type1005Entry* entry = elements.table.Find(NumberOf(element->reference));
+        if (entry == nullptr) {
+          result = false;
+          return;
+        }
+        a = entry->flagA ? 1 : 0;
+        b = entry->flagB ? 1 : 0;
+      }
+    }
+  }
+}
+
+// Usage value, least significant byte first: flags A and B, whether every item has a second
+// part, and the item count (low 8 bits).
+uint32_t UsageValue(const Type40Resource& resource, const Type1005Index& elements, bool& result) {
+  uint8_t a, b;
+  ReadElementFlags(resource, elements, result, a, b);
+  bool all_have_second_parts = true;
+  for (auto& item : resource.items) {
+    if (item->secondParts.empty()) all_have_second_parts = false;
+  }
+  return uint32_t{a} | uint32_t{b} << 8 | uint32_t{all_have_second_parts} << 16 |
+         (resource.items.size() & 0xFF) << 24;
+}
+
+}  // namespace
+
+bool BuildType40Index(const std::string& resource_root, const std::string& index_folder) {
+  BuildType1005Index(resource_root, index_folder);
+  Type1005Index elements;
+  if (!elements.Load(IndexFilePath(index_folder, kContentElementType))) return false;
+
+  bool result = true;
+  Type40Index index;
+  for (const ScannedResource& file : ScanResourceFiles(resource_root, Type40Resource::kType)) {
+    Type40Resource resource;
+    if (!LoadArchiveFile(file.path, false, resource)) {
+      result = false;
+      continue;
+    }
+    index.groups.FindOrInsert(resource.groupKey).Add(file.number);
+    index.AddUsage(file.number, UsageValue(resource, elements, result));
+  }
+  if (!LoadArchiveFile(IndexFilePath(index_folder, Type40Resource::kType), true, index)) {
+    result = false;
+  }
+  return result;
+}
+
+}  // namespace lumora
