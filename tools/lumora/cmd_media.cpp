@@ -1,0 +1,61 @@
+// `lumora media ROOT -d ID --kind K --folder F --resource RID --path-kind url|unc [--order N]`:
+// the path a host gets for one medium.
+#include <lumora/lumora.h>
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
+#include <memory>
+
+#include "commands.h"
+#include "content_args.h"
+
+namespace lumora::cli {
+namespace {
+
+struct Options {
+  std::string root;
+  uint32_t discipline = 0;
+  uint32_t kind = 0;
+  uint32_t folder = 0;
+  std::string resource;
+  std::string pathKind = "url";
+  uint32_t order = 1;
+  bool json = false;
+};
+
+void Run(const Options& options) {
+  const MediaRef media(options.kind, options.folder, ParseNumber(options.resource, "resource"));
+  OpenedContent content(options.root, 0);
+  const ContentRequest request =
+      RequestFor(options.discipline, ParsePathKind(options.pathKind), options.order);
+  std::string path;
+  const bool ok = lmGetMediaPath(&request, media, &path);
+  if (options.json) {
+    std::cout << nlohmann::json{{"ok", ok}, {"path", path}}.dump(2) << '\n';
+  } else if (ok) {
+    std::cout << path << '\n';
+  }
+  if (!ok) throw CommandFailure("medium not found (local paths are never answered)");
+}
+
+void AddMediaCommand(CLI::App& app) {
+  auto options = std::make_shared<Options>();
+  auto* command = app.add_subcommand("media", "Resolve one medium to a URL or UNC path");
+  command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
+      ->required();
+  command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
+  command->add_option("--kind", options->kind, "1 sound, 2 picture, 3 video")->required();
+  command->add_option("--folder", options->folder, "Type folder number")->required();
+  command->add_option("--resource", options->resource, "Resource id, decimal or 0x-hex")
+      ->required();
+  command->add_option("--path-kind", options->pathKind, "url or unc")->required();
+  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3");
+  command->add_flag("--json", options->json, "Print JSON instead of text");
+  command->callback([options] { Run(*options); });
+}
+
+const CommandRegistration reg{"media", &AddMediaCommand};
+
+}  // namespace
+}  // namespace lumora::cli

@@ -1,0 +1,70 @@
+// `lumora open ROOT [--filter ID] [--json]`: what opening a content root registers.
+#include <lumora/frame/library_state.h>
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+
+#include "commands.h"
+#include "content_args.h"
+
+namespace lumora::cli {
+namespace {
+
+struct Options {
+  std::string root;
+  uint32_t filter = 0;
+  bool json = false;
+};
+
+nlohmann::json DisciplineJson(uint32_t id, const Discipline& d) {
+  nlohmann::json types = nlohmann::json::array();
+  if (d.resourceIndex) {
+    for (uint32_t type : d.resourceIndex->types()) types.push_back(type);
+  }
+  return {{"id", id},
+          {"localRoot", d.localRoot},
+          {"uncRoot", d.uncRoot},
+          {"urlRoot", d.urlRoot},
+          {"dataFolder", d.dataFolder},
+          {"types", types}};
+}
+
+void Run(const Options& options) {
+  OpenedContent content(options.root, options.filter);
+  const KeyedTable<Discipline>& registry = Library().registry;
+  nlohmann::json disciplines = nlohmann::json::array();
+  for (uint32_t i = 0; i < registry.size(); ++i) {
+    disciplines.push_back(DisciplineJson(registry.KeyAt(i), *registry.ObjectAt(i)));
+  }
+  if (options.json) {
+    std::cout << nlohmann::json{{"ok", content.ok()}, {"disciplines", disciplines}}.dump(2) << '\n';
+  } else {
+    std::printf("open: %s\n", content.ok() ? "ok" : "failed");
+    for (const auto& d : disciplines) {
+      std::printf(
+          "discipline %u\n  local  %s\n  unc    %s\n  url    %s\n  data   %s\n  types  %s\n",
+          d["id"].get<uint32_t>(), d["localRoot"].get<std::string>().c_str(),
+          d["uncRoot"].get<std::string>().c_str(), d["urlRoot"].get<std::string>().c_str(),
+          d["dataFolder"].get<std::string>().c_str(), d["types"].dump().c_str());
+    }
+  }
+  if (!content.ok()) throw CommandFailure("no discipline could be opened below " + options.root);
+}
+
+void AddOpenCommand(CLI::App& app) {
+  auto options = std::make_shared<Options>();
+  auto* command = app.add_subcommand("open", "Open a content root and show its disciplines");
+  command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
+      ->required();
+  command->add_option("--filter", options->filter, "Open only this discipline identifier");
+  command->add_flag("--json", options->json, "Print JSON instead of text");
+  command->callback([options] { Run(*options); });
+}
+
+const CommandRegistration reg{"open", &AddOpenCommand};
+
+}  // namespace
+}  // namespace lumora::cli

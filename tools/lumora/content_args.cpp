@@ -1,0 +1,60 @@
+#include "content_args.h"
+
+#include <lumora/frame/library_state.h>
+#include <lumora/support/utf8.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+#include "commands.h"
+
+namespace lumora::cli {
+
+uint32_t ParseNumber(const std::string& text, const char* what) {
+  const bool hex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
+  const char* digits = text.c_str() + (hex ? 2 : 0);
+  char* end = nullptr;
+  errno = 0;
+  const unsigned long long value = std::strtoull(digits, &end, hex ? 16 : 10);
+  if (text.empty() || *digits == '-' || *end != '\0' || end == digits || errno != 0 ||
+      value > UINT32_MAX) {
+    throw CommandFailure(std::string("not a valid ") + what + ": " + text);
+  }
+  return static_cast<uint32_t>(value);
+}
+
+uint32_t ParsePathKind(const std::string& text) {
+  if (text == "local") return kPathLocal;
+  if (text == "url") return kPathUrl;
+  if (text == "unc") return kPathUnc;
+  throw CommandFailure("path kind must be local, url or unc: " + text);
+}
+
+const char* PathKindName(uint32_t path_kind) {
+  return path_kind == kPathUrl ? "url" : path_kind == kPathUnc ? "unc" : "local";
+}
+
+OpenedContent::OpenedContent(const std::string& root, uint32_t filter)
+    : ok_(lmOpen(root.c_str(), filter)) {}
+
+ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
+  if (FindDiscipline(id) == nullptr) {
+    throw CommandFailure("no open discipline with identifier " + std::to_string(id));
+  }
+  ContentRequest request;
+  request.disciplineId = id;
+  request.pathKind = path_kind;
+  request.mediaOrder = order;
+  return request;
+}
+
+std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
+
+nlohmann::json MediaJson(const MediaRef& media) {
+  return {{"kind", media.kind},
+          {"folder", media.folder},
+          {"resource", media.resource},
+          {"path", media.path}};
+}
+
+}  // namespace lumora::cli

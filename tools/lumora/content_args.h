@@ -1,0 +1,42 @@
+// Pieces shared by the commands that open a content root: argument parsing, the open/close
+// pair and the JSON forms of the library's small records.
+#pragma once
+
+#include <lumora/lumora.h>
+#include <lumora/support/wide_text.h>
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <string>
+
+namespace lumora::cli {
+
+// Decimal or 0x-prefixed hexadecimal; anything else is a CommandFailure naming `what`.
+uint32_t ParseNumber(const std::string& text, const char* what);
+
+// "local", "url" or "unc".
+uint32_t ParsePathKind(const std::string& text);
+const char* PathKindName(uint32_t path_kind);
+
+// Opens a content root for the life of a command and closes it again.
+class OpenedContent {
+ public:
+  OpenedContent(const std::string& root, uint32_t filter);
+  ~OpenedContent() { lmClose(); }
+  OpenedContent(const OpenedContent&) = delete;
+  OpenedContent& operator=(const OpenedContent&) = delete;
+
+  bool ok() const { return ok_; }
+
+ private:
+  bool ok_;
+};
+
+// A request for discipline `id`; throws when no open discipline has that identifier.
+ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
+
+std::string Utf8(const WideText& text);
+nlohmann::json MediaJson(const MediaRef& media);
+
+}  // namespace lumora::cli
