@@ -97,7 +97,7 @@ TEST_F(Lifecycle, DisciplineRootsAndDataFolder) {
   WriteIni(
       "[Common]\nLocal=/srv/shared\n"
       "[001]\nDiscipline=7\n"
-      "[002]\nURL=http://cdn/d8\nUNC=//server/d8\nLocal=/data/d8/\nDiscipline=8\n");
+      "[002]\nURL=http://cdn/d8\nUNC=\\\\server\\d8\nLocal=/data/d8/\nDiscipline=8\n");
   ASSERT_TRUE(lmOpen(root().c_str(), 0));
   const Discipline& seven = Registered(0);
   EXPECT_EQ(seven.localRoot, root() + "D007/");
@@ -106,7 +106,8 @@ TEST_F(Lifecycle, DisciplineRootsAndDataFolder) {
   EXPECT_EQ(seven.dataFolder, "/srv/shared/D007/");
   const Discipline& eight = Registered(1);
   EXPECT_EQ(eight.localRoot, "/data/d8/");
-  EXPECT_EQ(eight.uncRoot, "//server/d8/");
+  // The network root gets the separator of network paths; the URL stays as written.
+  EXPECT_EQ(eight.uncRoot, "\\\\server\\d8\\");
   EXPECT_EQ(eight.urlRoot, "http://cdn/d8");
   EXPECT_EQ(eight.dataFolder, "/srv/shared/D008/");
 }

@@ -36,7 +36,8 @@ class Queries : public LibraryTest {
  protected:
   void SetUp() override {
     WriteIni("[Common]\nLocal=" + root() + "shared\n" +
-             "[001]\nDiscipline=7\nURL=http://cdn/d7\nUNC=//server/d7\nLocal=" + root() + "d7\n");
+             "[001]\nDiscipline=7\nURL=http://cdn/d7\nUNC=\\\\server\\d7\\\nLocal=" + root() +
+             "d7\n");
     ASSERT_TRUE(lmOpen(root().c_str(), 0));
   }
 
@@ -100,7 +101,7 @@ TEST_F(Queries, MediaPathsUseTheRootAndSeparatorOfThePathKind) {
   const Case cases[] = {
       {kPathUrl, 1, true, "http://cdn/d7C0001/r0000040/Q1/s0000005.swf"},
       // Only the low byte of the media order selects: 0x102 tries Q2 first.
-      {kPathUnc, 0x102, true, "//server/d7/C0001\\r0000040\\Q2\\s0000005.swf"},
+      {kPathUnc, 0x102, true, "\\\\server\\d7\\C0001\\r0000040\\Q2\\s0000005.swf"},
       {kPathLocal, 1, false, "kept"},
       {5, 1, false, "kept"},
   };

@@ -17,8 +17,8 @@ struct Options {
   bool json = false;
 };
 
-nlohmann::json ValuesJson(const ByteArray& values) {
-  nlohmann::json list = nlohmann::json::array();
+nlohmann::ordered_json ValuesJson(const ByteArray& values) {
+  nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (uint8_t v : values) list.push_back(v);
   return list;
 }
@@ -27,7 +27,7 @@ void Run(const Options& options) {
   KeyedTable<DisciplineInfo> list;
   const bool ok = lmGetDisciplines(options.root.c_str(), &list);
   if (options.json) {
-    nlohmann::json rows = nlohmann::json::array();
+    nlohmann::ordered_json rows = nlohmann::ordered_json::array();
     for (uint32_t i = 0; i < list.size(); ++i) {
       const DisciplineInfo& info = *list.ObjectAt(i);
       rows.push_back({{"id", list.KeyAt(i)},

@@ -13,7 +13,7 @@ namespace lumora::cli {
 namespace {
 
 void PrintJson() {
-  nlohmann::json rows = nlohmann::json::array();
+  nlohmann::ordered_json rows = nlohmann::ordered_json::array();
   for (unsigned number = 0; number < kLanguageCount; ++number) {
     const LanguageInfo& row = LanguageRow(number);
     rows.push_back({{"number", number},

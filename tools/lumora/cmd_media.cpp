@@ -32,7 +32,7 @@ void Run(const Options& options) {
   std::string path;
   const bool ok = lmGetMediaPath(&request, media, &path);
   if (options.json) {
-    std::cout << nlohmann::json{{"ok", ok}, {"path", path}}.dump(2) << '\n';
+    std::cout << nlohmann::ordered_json{{"ok", ok}, {"path", path}}.dump(2) << '\n';
   } else if (ok) {
     std::cout << path << '\n';
   }

@@ -19,8 +19,8 @@ struct Options {
   bool json = false;
 };
 
-nlohmann::json DisciplineJson(uint32_t id, const Discipline& d) {
-  nlohmann::json types = nlohmann::json::array();
+nlohmann::ordered_json DisciplineJson(uint32_t id, const Discipline& d) {
+  nlohmann::ordered_json types = nlohmann::ordered_json::array();
   if (d.resourceIndex) {
     for (uint32_t type : d.resourceIndex->types()) types.push_back(type);
   }
@@ -35,12 +35,13 @@ nlohmann::json DisciplineJson(uint32_t id, const Discipline& d) {
 void Run(const Options& options) {
   OpenedContent content(options.root, options.filter);
   const KeyedTable<Discipline>& registry = Library().registry;
-  nlohmann::json disciplines = nlohmann::json::array();
+  nlohmann::ordered_json disciplines = nlohmann::ordered_json::array();
   for (uint32_t i = 0; i < registry.size(); ++i) {
     disciplines.push_back(DisciplineJson(registry.KeyAt(i), *registry.ObjectAt(i)));
   }
   if (options.json) {
-    std::cout << nlohmann::json{{"ok", content.ok()}, {"disciplines", disciplines}}.dump(2) << '\n';
+    std::cout << nlohmann::ordered_json{{"ok", content.ok()}, {"disciplines", disciplines}}.dump(2)
+              << '\n';
   } else {
     std::printf("open: %s\n", content.ok() ? "ok" : "failed");
     for (const auto& d : disciplines) {

@@ -25,7 +25,7 @@ void Run(const Options& options) {
   request.disciplineId = options.discipline;
   const std::string path = lmGetPathInfos(&request);
   if (options.json) {
-    std::cout << nlohmann::json{{"path", path}}.dump(2) << '\n';
+    std::cout << nlohmann::ordered_json{{"path", path}}.dump(2) << '\n';
   } else {
     std::cout << path << '\n';
   }

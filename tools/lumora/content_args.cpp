@@ -50,7 +50,7 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
 
 std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
 
-nlohmann::json MediaJson(const MediaRef& media) {
+nlohmann::ordered_json MediaJson(const MediaRef& media) {
   return {{"kind", media.kind},
           {"folder", media.folder},
           {"resource", media.resource},

@@ -37,6 +37,6 @@ class OpenedContent {
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
 
 std::string Utf8(const WideText& text);
-nlohmann::json MediaJson(const MediaRef& media);
+nlohmann::ordered_json MediaJson(const MediaRef& media);
 
 }  // namespace lumora::cli

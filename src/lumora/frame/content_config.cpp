@@ -33,6 +33,12 @@ std::string ReadFolder(ProfileFile& ini, const char* key) {
   return WithBackslash(ini.GetString(key));
 }
 
+std::string ReadUncFolder(ProfileFile& ini) {
+  std::string value = ini.GetString("UNC");
+  if (!value.empty() && value.back() != '\\') value.push_back('\\');
+  return value;
+}
+
 std::string ValueOr(std::string value, const std::string& fallback) {
   return value.empty() ? fallback : value;
 }
@@ -41,7 +47,7 @@ CommonRoots ReadCommonRoots(ProfileFile& ini, const std::string& root) {
   CommonRoots roots;
   if (ini.FindSection("Common")) {
     roots.local = ReadFolder(ini, "Local");
-    roots.unc = ReadFolder(ini, "UNC");
+    roots.unc = ReadUncFolder(ini);
     roots.url = ini.GetString("URL");
   }
   roots.local = ValueOr(roots.local, root);

@@ -28,6 +28,9 @@ std::string LexiconFolder(const std::string& local_root, uint32_t number);
 
 // The value of a folder key in the current section, with a separator appended unless empty.
 std::string ReadFolder(ProfileFile& ini, const char* key);
+// The value of key UNC in the current section, with a backslash appended unless empty: the
+// network root is handed to hosts as written, so it keeps the separator of network paths.
+std::string ReadUncFolder(ProfileFile& ini);
 // `value`, or `fallback` when it is empty.
 std::string ValueOr(std::string value, const std::string& fallback);
 

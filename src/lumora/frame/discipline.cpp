@@ -8,7 +8,7 @@ void Discipline::Open(ProfileFile& ini, const std::string& content_root,
   ReadTypeAndParam(ini, info);
   const std::string fallback = content_root + folder;
   localRoot = ValueOr(ReadFolder(ini, "Local"), fallback);
-  uncRoot = ValueOr(ReadFolder(ini, "UNC"), fallback);
+  uncRoot = ValueOr(ReadUncFolder(ini), fallback);
   urlRoot = ValueOr(ini.GetString("URL"), fallback);
   dataFolder = common_local + folder;
   resourceIndex = std::make_unique<ResourceIndex>(dataFolder);

@@ -1,0 +1,96 @@
+// `lumora resource ROOT -d ID --type T --id RID [--path-kind K] [--order N] [--no-media]`: one
+// resource decoded, with the paths of its media.
+#include <lumora/lumora.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/resources/type_catalog.h>
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+
+#include "commands.h"
+#include "content_args.h"
+#include "resource_json.h"
+#include "tree_print.h"
+
+namespace lumora::cli {
+namespace {
+
+struct Options {
+  std::string root;
+  uint32_t discipline = 0;
+  uint32_t type = 0;
+  std::string id;
+  std::string pathKind = "url";
+  uint32_t order = 1;
+  bool noMedia = false;
+  bool json = false;
+};
+
+void PrintMediaLines(const nlohmann::ordered_json& media) {
+  for (const auto& m : media) {
+    const std::string path = m["path"].get<std::string>();
+    std::printf("  medium kind %u folder %u resource 0x%08x  %s\n", m["kind"].get<uint32_t>(),
+                m["folder"].get<uint32_t>(), m["resource"].get<uint32_t>(),
+                path.empty() ? "(not found)" : path.c_str());
+  }
+}
+
+void Run(const Options& options) {
+  const uint32_t resource_id = ParseNumber(options.id, "resource id");
+  std::unique_ptr<ExerciseResource> resource = NewResource(options.type);
+  if (!resource) {
+    throw CommandFailure("no resource class for type " + std::to_string(options.type));
+  }
+  OpenedContent content(options.root, 0);
+  const ContentRequest request =
+      RequestFor(options.discipline, ParsePathKind(options.pathKind), options.order);
+  const bool ok = lmGetResource(&request, resource_id, resource.get(), !options.noMedia);
+
+  nlohmann::ordered_json out{{"ok", ok},
+                             {"type", options.type},
+                             {"resourceId", resource_id},
+                             {"course", CourseOf(resource_id)},
+                             {"number", NumberOf(resource_id)}};
+  ResourceJsonWriter writer;
+  if (ok) writer.Fields(*resource, out);
+  out["media"] = writer.media();
+
+  if (options.json) {
+    std::cout << out.dump(2) << '\n';
+  } else if (ok) {
+    std::printf("resource 0x%08x: type %u, course %u, number %u\n", resource_id, options.type,
+                CourseOf(resource_id), NumberOf(resource_id));
+    nlohmann::ordered_json fields = out;
+    for (const char* head : {"ok", "type", "resourceId", "course", "number", "media"}) {
+      fields.erase(head);
+    }
+    PrintTree(std::cout, fields, 2);
+    PrintMediaLines(out["media"]);
+  }
+  if (!ok)
+    throw CommandFailure("resource " + options.id + " of type " + std::to_string(options.type) +
+                         " could not be read");
+}
+
+void AddResourceCommand(CLI::App& app) {
+  auto options = std::make_shared<Options>();
+  auto* command = app.add_subcommand("resource", "Decode one resource and resolve its media");
+  command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
+      ->required();
+  command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
+  command->add_option("--type", options->type, "Exercise type")->required();
+  command->add_option("--id", options->id, "Resource id, decimal or 0x-hex")->required();
+  command->add_option("--path-kind", options->pathKind, "local, url (default) or unc");
+  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3");
+  command->add_flag("--no-media", options->noMedia, "Do not resolve media paths");
+  command->add_flag("--json", options->json, "Print JSON instead of text");
+  command->callback([options] { Run(*options); });
+}
+
+const CommandRegistration reg{"resource", &AddResourceCommand};
+
+}  // namespace
+}  // namespace lumora::cli

@@ -1,0 +1,107 @@
+#include "resource_json.h"
+
+#include <lumora/resources/types/type40.h>
+
+#include "content_args.h"
+
+namespace lumora::cli {
+namespace {
+
+nlohmann::ordered_json ItemJson(ResourceJsonWriter& writer, const ExerciseItem& item);
+
+nlohmann::ordered_json PartsJson(ResourceJsonWriter& writer, const ObjectList<ItemPart>& parts) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (uint32_t i = 0; i < parts.size(); ++i) {
+    const ItemPart& part = parts[i];
+    nlohmann::ordered_json elements = nlohmann::ordered_json::array();
+    for (uint32_t e = 0; e < part.elements.size(); ++e) {
+      elements.push_back(writer.Element(part.elements[e]));
+    }
+    out.push_back({{"value", part.value},
+                   {"flag", part.flag},
+                   {"elements", elements},
+                   {"content", writer.Element(part.content)}});
+  }
+  return out;
+}
+
+nlohmann::ordered_json ItemJson(ResourceJsonWriter& writer, const ExerciseItem& item) {
+  nlohmann::ordered_json out{{"content", writer.Element(item.content)}};
+  out["firstParts"] = PartsJson(writer, item.firstParts);
+  out["secondParts"] = PartsJson(writer, item.secondParts);
+  nlohmann::ordered_json media = nlohmann::ordered_json::array();
+  for (uint32_t i = 0; i < item.media.size(); ++i) media.push_back(writer.Media(item.media[i]));
+  out["media"] = media;
+  out["records"] = RecordsJson(item.records);
+  return out;
+}
+
+void Type40Fields(ResourceJsonWriter& writer, const Type40Resource& resource,
+                  nlohmann::ordered_json& out) {
+  out["groupKey"] = resource.groupKey;
+  nlohmann::ordered_json items = nlohmann::ordered_json::array();
+  for (uint32_t i = 0; i < resource.items.size(); ++i) {
+    items.push_back(ItemJson(writer, resource.items[i]));
+  }
+  out["items"] = items;
+}
+
+}  // namespace
+
+nlohmann::ordered_json BytesJson(const ByteArray& bytes) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (uint8_t byte : bytes) out.push_back(byte);
+  return out;
+}
+
+bool ResourceJsonWriter::Fields(const ExerciseResource& resource, nlohmann::ordered_json& out) {
+  if (const auto* element = dynamic_cast<const ContentElement*>(&resource)) {
+    out.update(Element(*element));
+    return true;
+  }
+  if (const auto* type40 = dynamic_cast<const Type40Resource*>(&resource)) {
+    Type40Fields(*this, *type40, out);
+    return true;
+  }
+  return false;
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Element(const ContentElement& element) {
+  nlohmann::ordered_json out{{"isReference", element.isReference},
+                             {"reference", element.reference}};
+  // Resolving media expands a reference into the element it names; one left unexpanded (media
+  // not resolved, or its file missing) holds nothing but the reference.
+  if (element.isReference) return out;
+  out["text"] = Text(element.text);
+  out["translations"] = Texts(element.translations);
+  out["note"] = element.note;
+  out["media"] = Media(element.media);
+  out["firstAttributes"] = BytesJson(element.firstAttributes);
+  out["secondAttributes"] = BytesJson(element.secondAttributes);
+  return out;
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Media(const MediaRef& media) {
+  nlohmann::ordered_json out = MediaJson(media);
+  if (media.kind != 0) media_.push_back(out);
+  return out;
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Text(const MarkedText& text) const {
+  return {{"codePage", text.codePage},
+          {"text", Utf8(text.text)},
+          {"records16", RecordsJson(text.records16)},
+          {"records24", RecordsJson(text.records24)}};
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Texts(const LanguageTexts& texts) const {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (uint32_t i = 0; i < texts.size(); ++i) {
+    const CodePageText& text = *texts.TextAt(i);
+    out.push_back(
+        {{"language", texts.KeyAt(i)}, {"codePage", text.codePage}, {"text", Utf8(text.text)}});
+  }
+  return out;
+}
+
+}  // namespace lumora::cli

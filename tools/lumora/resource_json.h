@@ -1,0 +1,52 @@
+// JSON forms of the decoded resource classes, for `lumora resource`. Every medium met while a
+// resource is written out is also collected, in the order met, for the answer's "media" list.
+#pragma once
+
+#include <lumora/platform/typed_array.h>
+#include <lumora/resources/exercise_resource.h>
+#include <lumora/resources/language_texts.h>
+#include <lumora/resources/marked_text.h>
+#include <lumora/resources/media_ref.h>
+#include <lumora/resources/types/type1005.h>
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <cstdint>
+
+namespace lumora::cli {
+
+class ResourceJsonWriter {
+ public:
+  // The type's own fields (no head): false for a class this tool cannot decode yet.
+  bool Fields(const ExerciseResource& resource, nlohmann::ordered_json& out);
+  const nlohmann::ordered_json& media() const { return media_; }
+
+  nlohmann::ordered_json Element(const ContentElement& element);
+  nlohmann::ordered_json Media(const MediaRef& media);
+  nlohmann::ordered_json Text(const MarkedText& text) const;
+  nlohmann::ordered_json Texts(const LanguageTexts& texts) const;
+
+ private:
+  nlohmann::ordered_json media_ = nlohmann::ordered_json::array();
+};
+
+// Fixed-size records as lowercase hex strings, one per record.
+template <size_t N>
+nlohmann::ordered_json RecordsJson(const TypedArray<RawRecord<N>>& records) {
+  static constexpr char kHex[] = "0123456789abcdef";
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (const RawRecord<N>& record : records) {
+    std::string hex;
+    for (uint8_t byte : record.bytes) {
+      hex.push_back(kHex[byte >> 4]);
+      hex.push_back(kHex[byte & 15]);
+    }
+    out.push_back(hex);
+  }
+  return out;
+}
+
+nlohmann::ordered_json BytesJson(const ByteArray& bytes);
+
+}  // namespace lumora::cli
