@@ -147,6 +147,14 @@ TEST_F(Queries, HiddenTwinOfAResourceWins) {
   ASSERT_TRUE(lmGetResource(&request, id, &resource, true));
   EXPECT_EQ(resource.group, 2);
   EXPECT_EQ(resource.resolved, local() + " | " + local() + " | 0");
+
+  // A folder named like the twin is not one: the .ars is read.
+  const uint32_t other = MakeResourceId(0, 13);
+  WriteResource(other, 3, "ars");
+  const std::string ars = ResourceFilePath(local(), NoteResource::kType, other);
+  ASSERT_TRUE(CreateFolderPath(ChangeExtension(ars, "arh") + kPathSeparator));
+  ASSERT_TRUE(lmGetResource(&request, other, &resource, false));
+  EXPECT_EQ(resource.group, 3);
 }
 
 // A host class whose own code throws: whatever it throws stays inside the library.

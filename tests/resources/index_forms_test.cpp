@@ -7,25 +7,16 @@
 
 #include "fixtures/archive_bytes.h"
 #include "fixtures/temp_dir.h"
+#include "resources/index_bytes.h"
 
 namespace lumora {
 namespace {
 
 using testing::Bytes;
 using testing::Concat;
+using testing::Groups;
 using testing::U32;
-
-Bytes Groups(uint8_t sorted, std::vector<std::pair<uint8_t, std::vector<uint32_t>>> groups) {
-  Bytes out = Concat({U32(static_cast<uint32_t>(groups.size())), {sorted}});
-  if (groups.empty()) return out;
-  out = Concat({out, U32(1), U32(static_cast<uint32_t>(groups.size())), U32(0)});
-  for (auto& [key, numbers] : groups) out.push_back(key);
-  for (auto& [key, numbers] : groups) {
-    out = Concat({out, U32(4), U32(static_cast<uint32_t>(numbers.size())), U32(0)});
-    for (uint32_t n : numbers) out = Concat({out, U32(n)});
-  }
-  return out;
-}
+using testing::UsageTable;
 
 TEST(ResourceGroups, EmptyIndexIsFiveBytes) {
   ResourceGroups groups;
@@ -54,6 +45,23 @@ TEST(ResourceGroups, LookupsAndResourceNumbers) {
   EXPECT_TRUE(numbers.empty());
 }
 
+TEST(ResourceGroups, StoredFlagDecidesBetweenScanAndBisection) {
+  ResourceGroups groups;
+  ASSERT_TRUE(testing::LoadObject(Groups(0, {{9, {1}}, {2, {3, 4}}, {5, {6}}}), groups));
+  EXPECT_FALSE(groups.sorted());
+  for (uint8_t key : {9, 2, 5}) EXPECT_NE(groups.Find(key), nullptr) << int{key};
+  DWordArray numbers;
+  groups.GetResourceNumbers(0, numbers);  // in key-array order, not key order
+  EXPECT_EQ(std::vector<uint32_t>(numbers.begin(), numbers.end()),
+            (std::vector<uint32_t>{1, 3, 4, 6}));
+
+  // Any nonzero flag byte is trusted, so disordered keys under it are missed by the bisection.
+  ASSERT_TRUE(testing::LoadObject(Groups(2, {{9, {1}}, {2, {3, 4}}, {5, {6}}}), groups));
+  EXPECT_TRUE(groups.sorted());
+  EXPECT_EQ(groups.Find(9), nullptr);
+  EXPECT_NE(groups.Find(5), nullptr);
+}
+
 TEST(ResourceGroups, InsertionClearsTheSortedFlagAndStoresIt) {
   ResourceGroups groups;
   ASSERT_TRUE(testing::LoadObject(Groups(1, {{5, {1}}}), groups));
@@ -73,17 +81,6 @@ TEST(ResourceGroups, MalformedFormsFail) {
   Bytes wrong_keys = Concat({U32(3), {1}, U32(1), U32(1), U32(0), {2}});
   EXPECT_FALSE(testing::LoadObject(wrong_keys, groups));
   EXPECT_FALSE(testing::LoadObject(Concat({U32(0x7FFFFFFF), {1}}), groups));
-}
-
-Bytes UsageTable(std::vector<uint32_t> keys, uint32_t width, std::vector<uint32_t> values) {
-  Bytes out = Concat({U32(4), U32(static_cast<uint32_t>(keys.size())), U32(0)});
-  for (uint32_t k : keys) out = Concat({out, U32(k)});
-  out = Concat({out, U32(width), U32(static_cast<uint32_t>(values.size())), U32(0)});
-  for (uint32_t v : values) {
-    Bytes le = U32(v);
-    out.insert(out.end(), le.begin(), le.begin() + width);
-  }
-  return out;
 }
 
 TEST(UsageIndex, FlagIsTheTopByteOfTheTypesWidth) {

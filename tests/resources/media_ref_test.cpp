@@ -51,6 +51,10 @@ TEST_F(BuildPathTest, QualityFolderOrderAndExtensionPrecedence) {
   EXPECT_EQ(Build(kMediaVideo, kPathUrl, 2), kUrl + "C0001/r0000040/Q3/v0000291.avi");
   Put("Q3/v0000291.mpg");
   EXPECT_EQ(Build(kMediaVideo, kPathUrl, 3), kUrl + "C0001/r0000040/Q3/v0000291.mpg");
+  // Within one folder .avi comes before .swf; a folder named like a video is no video.
+  Put("Q1/v0000291.avi");
+  std::filesystem::create_directories(dir_.path() + "C0001/r0000040/Q1/v0000291.mpg");
+  EXPECT_EQ(Build(kMediaVideo, kPathUrl, 1), kUrl + "C0001/r0000040/Q1/v0000291.avi");
 }
 
 TEST_F(BuildPathTest, SelectorTwoStillReachesQ1AndFoldersDoNotCount) {
