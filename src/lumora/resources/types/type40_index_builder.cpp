@@ -2,6 +2,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/resource_scan.h>
+#include <lumora/resources/types/groups_index_builder.h>
 #include <lumora/resources/types/index_builders.h>
 #include <lumora/resources/types/type1005_index.h>
 #include <lumora/resources/types/type40.h>
@@ -57,19 +58,13 @@ bool BuildType40Index(const std::string& resource_root, const std::string& index
 
   bool result = true;
   Type40Index index;
-  for (const ScannedResource& file : ScanResourceFiles(resource_root, Type40Resource::kType)) {
-    Type40Resource resource;
-    if (!LoadArchiveFile(file.path, false, resource)) {
-      result = false;
-      continue;
-    }
-    index.groups.FindOrInsert(resource.groupKey).Add(file.number);
-    index.AddUsage(file.number, UsageValue(resource, elements, result));
-  }
-  if (!LoadArchiveFile(IndexFilePath(index_folder, Type40Resource::kType), true, index)) {
-    result = false;
-  }
-  return result;
+  return BuildIndexFromResources<Type40Resource>(
+      resource_root, index_folder, index,
+      [&](Type40Index& i, const Type40Resource& resource, uint32_t number) {
+        i.groups.FindOrInsert(resource.groupKey).Add(number);
+        i.AddUsage(number, UsageValue(resource, elements, result));
+      },
+      result);
 }
 
 }  // namespace lumora
