@@ -2,6 +2,9 @@
 
 #include <lumora/resources/resource_id.h>
 
+#include <memory>
+#include <string>
+
 #include "sample/sample_layout.h"
 #include "sample/sample_phrases.h"
 

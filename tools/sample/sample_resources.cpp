@@ -4,12 +4,17 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>
 
+#include <cstdint>
+
 #include "sample/sample_builders.h"
 #include "sample/sample_files.h"
 #include "sample/sample_layout.h"
 
 namespace lumora::sample {
 namespace {
+
+// The exercise that gets a revised twin: the first of course 1.
+constexpr uint32_t kRevisedCourse = 1;
 
 bool StoreResource(const std::string& root, uint32_t id, ExerciseResource& resource,
                    std::string* error) {
