@@ -1,5 +1,5 @@
-// `lumora sample DIR`: writes a small but realistic content root, the demo's content and the
-// easiest way to see the folder tree and every file format.
+// `lumora sample DIR [--scale N]`: writes a small but realistic content root, the demo's content
+// and the easiest way to see the folder tree and every file format.
 #include "commands.h"
 #include "sample/sample_content.h"
 
@@ -15,10 +15,13 @@ namespace {
 void AddSampleCommand(CLI::App& app) {
   auto* cmd = app.add_subcommand("sample", "Write a sample content root into DIR");
   auto dir = std::make_shared<std::string>();
+  auto options = std::make_shared<sample::SampleOptions>();
   cmd->add_option("DIR", *dir, "Folder to write (created if missing)")->required();
-  cmd->callback([dir] {
+  cmd->add_option("--scale", options->scale, "Units of content per discipline (12 resources each)")
+      ->check(CLI::Range(1, sample::kMaxScale));
+  cmd->callback([dir, options] {
     std::string error;
-    if (!sample::WriteSampleContent(*dir, {}, &error)) throw CommandFailure(error);
+    if (!sample::WriteSampleContent(*dir, *options, &error)) throw CommandFailure(error);
     std::printf("sample content written to %s\n", WithBackslash(*dir).c_str());
   });
 }

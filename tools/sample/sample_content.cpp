@@ -2,63 +2,40 @@
 
 #include <lumora/support/paths.h>
 
-#include <cstdio>
-#include <fstream>
+#include "sample/sample_index.h"
+#include "sample/sample_ini.h"
+#include "sample/sample_layout.h"
+#include "sample/sample_media.h"
+#include "sample/sample_resources.h"
 
 namespace lumora::sample {
 namespace {
 
-struct SampleDiscipline {
-  int id;
-  int param;  // low byte: the course language
-};
-
-constexpr SampleDiscipline kDisciplines[] = {{1, 17}, {2, 18}, {3, 33}};
-
-std::string DisciplineFolder(int id) {
-  char folder[16];
-  std::snprintf(folder, sizeof folder, "D%03d/", id);
-  return folder;
-}
-
-// Configuration files come from Windows tools: CR LF line ends.
-bool WriteContentIni(const std::string& root) {
-  std::ofstream ini(root + "Content.ini", std::ios::binary);
-  auto line = [&](const std::string& text) { ini << text << "\r\n"; };
-  line("[Common]");
-  line("UNC=\\\\lumora-server\\content\\");
-  line("URL=http://content.lumora.test/course/");
-  int section = 1;
-  for (const auto& d : kDisciplines) {
-    char name[16];
-    std::snprintf(name, sizeof name, "[%03d]", section++);
-    line("");
-    line(name);
-    line("Discipline=" + std::to_string(d.id));
-    line("Type=0");
-    line("Param=" + std::to_string(d.param));
-  }
-  return static_cast<bool>(ini.flush());
+// Every discipline keeps its files in its own folder, which is both its Local root and its data
+// folder. One that is only listed still needs its description index: listing reads it.
+bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int scale,
+                     std::string* error) {
+  if (!WriteDescriptionIndex(folder, error)) return false;
+  if (d.type != 0) return true;
+  return WriteSampleResources(folder, scale, error) && WriteSampleMedia(folder, scale, error) &&
+         RebuildResourceIndexes(folder, folder, error);
 }
 
 }  // namespace
 
 bool WriteSampleContent(const std::string& dir, const SampleOptions& options, std::string* error) {
-  (void)options;
+  if (options.scale < 1 || options.scale > kMaxScale) {
+    *error = "scale must be between 1 and " + std::to_string(kMaxScale);
+    return false;
+  }
   const std::string root = WithBackslash(dir);
   if (!CreateFolderPath(root)) {
     *error = "cannot create folder " + root;
     return false;
   }
-  if (!WriteContentIni(root)) {
-    *error = "cannot write " + root + "Content.ini";
-    return false;
-  }
-  for (const auto& d : kDisciplines) {
-    if (!CreateFolderPath(root + DisciplineFolder(d.id))) {
-      *error = "cannot create " + root + DisciplineFolder(d.id);
-      return false;
-    }
+  if (!WriteContentIni(root, error)) return false;
+  for (const SampleDiscipline& d : kSampleDisciplines) {
+    if (!WriteDiscipline(root + DisciplineFolder(d.id), d, options.scale, error)) return false;
   }
   return true;
 }

@@ -4,15 +4,19 @@
 
 #include <string>
 
+#include "sample/sample_layout.h"
+
 namespace lumora::sample {
 
 struct SampleOptions {
-  // Multiplies the number of resources per discipline.
+  // Units of content per discipline, 1 to kMaxScale: each adds twelve resource files per
+  // discipline (eight type-1005 elements and four type-40 exercises).
   int scale = 1;
 };
 
-// Writes the content root into `dir` (created if missing). False with a one-line reason in
-// `error` when a folder or file cannot be written.
+// Writes the content root into `dir` (created if missing); the same options always give the
+// same bytes. False with a one-line reason in `error` for a scale out of range or when a folder
+// or file cannot be written.
 bool WriteSampleContent(const std::string& dir, const SampleOptions& options, std::string* error);
 
 }  // namespace lumora::sample

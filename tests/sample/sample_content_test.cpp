@@ -1,0 +1,254 @@
+#include "sample/sample_content.h"
+
+#include <lumora/lumora.h>
+#include <lumora/resources/index_forms.h>
+#include <lumora/resources/resource_files.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/resources/type2000_index.h>
+#include <lumora/resources/types/type1005.h>
+#include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type40.h>
+#include <lumora/support/paths.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "fixtures/temp_dir.h"
+#include "frame/content_tree.h"
+
+namespace lumora {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::LibraryTest;
+using testing::RegisteredIds;
+using testing::TempDir;
+
+constexpr uint32_t kOpenDisciplines[] = {1, 2, 3};
+
+void WriteSample(const TempDir& dir, int scale) {
+  std::string error;
+  ASSERT_TRUE(sample::WriteSampleContent(dir.path(), {scale}, &error)) << error;
+}
+
+ContentRequest UrlRequest(uint32_t discipline, uint8_t selector = 1) {
+  ContentRequest request;
+  request.disciplineId = discipline;
+  request.pathKind = kPathUrl;
+  request.mediaOrder = selector;
+  return request;
+}
+
+// The resource numbers an index lists for each type that loads by number.
+std::vector<uint32_t> ListedNumbers(const ResourceIndex& index, uint32_t type) {
+  std::vector<uint32_t> numbers;
+  if (type == kContentElementType) {
+    const auto* elements = dynamic_cast<const Type1005Index*>(index.FindType(type));
+    if (elements == nullptr) return numbers;
+    const DWordArray& keys = elements->table.keys();
+    numbers.assign(keys.begin(), keys.begin() + elements->table.size());
+  } else {
+    const auto* exercises = dynamic_cast<const GroupsIndex*>(index.FindType(type));
+    if (exercises == nullptr) return numbers;
+    DWordArray all;
+    exercises->groups.GetResourceNumbers(0, all);
+    numbers.assign(all.begin(), all.end());
+  }
+  return numbers;
+}
+
+// Every file below `root` by its path relative to it, with its bytes.
+std::map<std::string, std::string> FilesBelow(const TempDir& dir) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : fs::recursive_directory_iterator(dir.path())) {
+    if (!entry.is_regular_file()) continue;
+    const std::string name = fs::relative(entry.path(), dir.path()).string();
+    files[name] = dir.Read(name);
+  }
+  return files;
+}
+
+size_t CountFiles(const TempDir& dir, const std::string& extension) {
+  size_t count = 0;
+  for (const auto& [name, bytes] : FilesBelow(dir)) count += name.ends_with(extension);
+  return count;
+}
+
+class SampleContent : public LibraryTest {
+ protected:
+  void SetUp() override {
+    WriteSample(dir, 1);
+    ASSERT_TRUE(lmOpen(root().c_str(), 0));
+  }
+
+  std::string UrlRoot(uint32_t discipline) const {
+    return root() + "D00" + std::to_string(discipline) + "/";
+  }
+
+  // Loads number `n` of the exercise or element type from whichever course holds it; fails
+  // the test unless exactly one course does.
+  template <typename Resource>
+  void LoadFromOneCourse(uint32_t discipline, uint32_t n, Resource& loaded) {
+    int found = 0;
+    const ContentRequest request = UrlRequest(discipline);
+    for (uint32_t course : {1u, 2u}) {
+      Resource probe;
+      if (!lmGetResource(&request, MakeResourceId(course, n), &probe, false)) continue;
+      ++found;
+      ASSERT_TRUE(lmGetResource(&request, MakeResourceId(course, n), &loaded, true));
+    }
+    EXPECT_EQ(found, 1) << "discipline " << discipline << ", number " << n;
+  }
+};
+
+TEST_F(SampleContent, OpensTheTypeZeroDisciplinesAndListsAllFour) {
+  EXPECT_EQ(RegisteredIds(), (std::vector<uint32_t>{1, 2, 3}));
+  KeyedTable<DisciplineInfo> list;
+  ASSERT_TRUE(lmGetDisciplines(root().c_str(), &list));
+  ASSERT_EQ(list.size(), 4u);
+  const uint32_t ids[] = {1, 2, 3, 9};
+  const int32_t params[] = {17, 18, 33, 17};
+  for (uint32_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(list.KeyAt(i), ids[i]);
+    EXPECT_EQ(list.ObjectAt(i)->Type, i == 3 ? 1 : 0);
+    EXPECT_EQ(list.ObjectAt(i)->Param, params[i]);
+  }
+}
+
+TEST_F(SampleContent, EveryDisciplineIndexesExercisesElementsAndDescriptions) {
+  for (uint32_t d : kOpenDisciplines) {
+    const ContentRequest request = UrlRequest(d);
+    const ResourceIndex* index = lmGetResourceInfos(&request);
+    ASSERT_NE(index, nullptr);
+    const DWordArray& types = index->types();
+    EXPECT_EQ(std::vector<uint32_t>(types.begin(), types.end()),
+              (std::vector<uint32_t>{40, 2000, 1005}));
+    EXPECT_EQ(ListedNumbers(*index, 40).size(), 4u);
+    EXPECT_EQ(ListedNumbers(*index, kContentElementType).size(), 8u);
+
+    const auto* descriptions = dynamic_cast<const Type2000Index*>(index->FindType(2000));
+    ASSERT_NE(descriptions, nullptr);
+    ByteArray keys;
+    descriptions->CollectGroupKeys(keys);
+    EXPECT_EQ(std::vector<uint8_t>(keys.begin(), keys.end()), (std::vector<uint8_t>{1, 2, 3}));
+  }
+}
+
+// Loading with media fills every reference from the element it names, so a reference to a
+// missing element shows as an element that stayed a reference.
+TEST_F(SampleContent, EveryIndexedExerciseLoadsWithItsReferencesAndMedia) {
+  for (uint32_t d : kOpenDisciplines) {
+    const ContentRequest request = UrlRequest(d);
+    std::set<std::string> videos;
+    for (uint32_t n : ListedNumbers(*lmGetResourceInfos(&request), 40)) {
+      Type40Resource exercise;
+      LoadFromOneCourse(d, n, exercise);
+      ASSERT_GE(exercise.items.size(), 2u);
+      for (auto& item : exercise.items) {
+        EXPECT_FALSE(item->content.text.text.empty());
+        for (ItemPart* part : item->Parts()) {
+          for (auto& element : part->elements) EXPECT_FALSE(element->isReference);
+        }
+        for (auto& medium : item->media) videos.insert(medium->path);
+      }
+    }
+    // Some videos answer as MPEG, some as AVI, and the one never delivered keeps no path.
+    EXPECT_TRUE(videos.contains(""));
+    const auto below_url = [&](const char* extension) {
+      return std::count_if(videos.begin(), videos.end(), [&](const std::string& path) {
+        return path.starts_with(UrlRoot(d)) && path.ends_with(extension);
+      });
+    };
+    EXPECT_GT(below_url(".mpg"), 0);
+    EXPECT_GT(below_url(".avi"), 0);
+  }
+}
+
+TEST_F(SampleContent, EveryIndexedElementLoadsAndSomeMediaAreMissing) {
+  for (uint32_t d : kOpenDisciplines) {
+    const ContentRequest request = UrlRequest(d);
+    size_t with_path = 0, without_path = 0;
+    for (uint32_t n : ListedNumbers(*lmGetResourceInfos(&request), kContentElementType)) {
+      ContentElement element;
+      LoadFromOneCourse(d, n, element);
+      EXPECT_FALSE(element.text.text.empty());
+      if (element.media.resource == 0) continue;
+      if (element.media.path.empty()) {
+        ++without_path;
+      } else {
+        EXPECT_TRUE(element.media.path.starts_with(UrlRoot(d))) << element.media.path;
+        ++with_path;
+      }
+    }
+    EXPECT_GT(with_path, 0u);
+    EXPECT_GT(without_path, 0u);
+  }
+}
+
+// Pictures lie in Q1 and Q3, sounds in Q2 only: the selector picks among the first, and every
+// selector still finds the second.
+TEST_F(SampleContent, QualityFoldersAnswerInTheSelectorsOrder) {
+  std::map<uint8_t, std::multiset<std::string>> folders;
+  for (uint8_t selector : {1, 2, 3}) {
+    for (uint32_t n : {1u, 2u}) {
+      ContentElement element;
+      const ContentRequest request = UrlRequest(1, selector);
+      ASSERT_TRUE(lmGetResource(&request, MakeResourceId(1, n), &element, true));
+      folders[selector].insert(element.media.path.substr(UrlRoot(1).size(), 19));
+    }
+  }
+  using Found = std::multiset<std::string>;
+  EXPECT_EQ(folders[1], (Found{"C0001/r0001005/Q1/p", "C0001/r0001005/Q2/s"}));
+  EXPECT_EQ(folders[2], (Found{"C0001/r0001005/Q3/p", "C0001/r0001005/Q2/s"}));
+  EXPECT_EQ(folders[3], (Found{"C0001/r0001005/Q3/p", "C0001/r0001005/Q2/s"}));
+}
+
+TEST_F(SampleContent, TheArhTwinIsWhatLoads) {
+  const uint32_t id = MakeResourceId(1, 1);
+  const std::string ars = ResourceFilePath(UrlRoot(1), 40, id);
+  ASSERT_TRUE(FileExists(ChangeExtension(ars, "arh")));
+  Type40Resource stored, loaded;
+  ASSERT_TRUE(LoadArchiveFile(ars, false, stored));
+  const ContentRequest request = UrlRequest(1);
+  ASSERT_TRUE(lmGetResource(&request, id, &loaded, false));
+  EXPECT_EQ(loaded.items.size(), stored.items.size() + 1);
+}
+
+TEST(SampleContentWriter, WritesTheSameBytesEveryTime) {
+  TempDir first, second;
+  WriteSample(first, 1);
+  WriteSample(second, 1);
+  const auto files = FilesBelow(first);
+  EXPECT_GT(files.size(), 50u);
+  EXPECT_EQ(files, FilesBelow(second));
+}
+
+TEST(SampleContentWriter, ResourcesGrowWithTheScale) {
+  TempDir small, large;
+  WriteSample(small, 1);
+  WriteSample(large, 3);
+  EXPECT_EQ(CountFiles(small, ".ars"), 3u * 12);
+  EXPECT_EQ(CountFiles(large, ".ars"), 3u * 36);
+}
+
+TEST(SampleContentWriter, RefusesAScaleOutOfRangeAndAnUnwritableFolder) {
+  TempDir dir;
+  std::string error;
+  EXPECT_FALSE(sample::WriteSampleContent(dir.path() + "zero", {0}, &error));
+  EXPECT_FALSE(error.empty());
+  EXPECT_FALSE(fs::exists(dir.path() + "zero"));
+
+  dir.Write("blocked", "a file where a folder should be");
+  error.clear();
+  EXPECT_FALSE(sample::WriteSampleContent(dir.path() + "blocked/inner", {1}, &error));
+  EXPECT_NE(error.find("blocked"), std::string::npos) << error;
+}
+
+}  // namespace
+}  // namespace lumora

@@ -1,0 +1,34 @@
+#include "sample/sample_files.h"
+
+#include <lumora/support/paths.h>
+
+#include <fstream>
+
+namespace lumora::sample {
+namespace {
+
+bool CreateFolderOf(const std::string& path, std::string* error) {
+  if (CreateFolderPath(FolderOf(path))) return true;
+  *error = "cannot create folder " + FolderOf(path);
+  return false;
+}
+
+}  // namespace
+
+bool WriteBytesFile(const std::string& path, const std::string& bytes, std::string* error) {
+  if (!CreateFolderOf(path, error)) return false;
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file << bytes;
+  if (file.flush()) return true;
+  *error = "cannot write " + path;
+  return false;
+}
+
+bool StoreObjectFile(const std::string& path, Object& object, std::string* error) {
+  if (!CreateFolderOf(path, error)) return false;
+  if (LoadArchiveFile(path, true, object)) return true;
+  *error = "cannot write " + path;
+  return false;
+}
+
+}  // namespace lumora::sample

@@ -1,0 +1,69 @@
+#include "sample/sample_index.h"
+
+#include <lumora/resources/resource_id.h>
+#include <lumora/resources/resource_index.h>
+#include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/type1005.h>
+#include <lumora/resources/types/type40.h>
+
+#include <memory>
+#include <string_view>
+
+#include "sample/sample_files.h"
+#include "sample/sample_layout.h"
+#include "sample/sample_phrases.h"
+
+namespace lumora::sample {
+namespace {
+
+struct Description {
+  uint32_t number;
+  uint8_t attribute;  // its group key; repeated keys list once among a discipline's values
+  std::u16string_view english;
+  std::u16string_view french;
+};
+
+constexpr Description kDescriptions[] = {
+    {10, 3, u"Greetings", u"Salutations"},
+    {20, 1, u"At the café", u"Au café"},
+    {30, 3, u"Travelling", u"En voyage"},
+    {40, 2, u"Numbers", u"Les nombres"},
+};
+
+std::unique_ptr<Type2000Entry> EntryOf(const Description& description) {
+  auto entry = std::make_unique<Type2000Entry>();
+  entry->attribute = description.attribute;
+  entry->titles.Add(kEnglish, CodePageText(kWesternCodePage, WideText(description.english)));
+  entry->titles.Add(kFrench, CodePageText(kWesternCodePage, WideText(description.french)));
+  return entry;
+}
+
+bool RebuildIndex(uint32_t type, const std::string& root, const std::string& data_folder,
+                  std::string* error) {
+  if (BuildTypeIndex(type, root, data_folder)) return true;
+  *error = "cannot build " + IndexFilePath(data_folder, type);
+  return false;
+}
+
+}  // namespace
+
+bool WriteDescriptionIndex(const std::string& data_folder, std::string* error) {
+  Type2000Index index;
+  for (const Description& description : kDescriptions) {
+    index.table.Add(description.number, EntryOf(description));
+  }
+  index.table.ObjectAt(0)->media =
+      MediaRef(kMediaPicture, kDescriptionFolder, MakeResourceId(0, kDescriptionPicture));
+  return StoreObjectFile(IndexFilePath(data_folder, 2000), index, error);
+}
+
+bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
+                            std::string* error) {
+  // The exercises' rebuild renews the elements' index too but passes over an unreadable
+  // element file; rebuilding the elements' index on its own first reports it.
+  return RebuildIndex(kContentElementType, root, data_folder, error) &&
+         RebuildIndex(Type40Resource::kType, root, data_folder, error);
+}
+
+}  // namespace lumora::sample

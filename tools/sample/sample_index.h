@@ -1,0 +1,17 @@
+// The index files of one discipline: the description index, written from its entries, and the
+// indexes of types 1005 and 40, rebuilt by the library from the resource files.
+#pragma once
+
+#include <string>
+
+namespace lumora::sample {
+
+// Writes the description index into `data_folder`, the folder of a discipline's index files.
+bool WriteDescriptionIndex(const std::string& data_folder, std::string* error);
+
+// Rebuilds the indexes of types 1005 and 40 in `data_folder` from the resource files below the
+// discipline's Local root `root`.
+bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
+                            std::string* error);
+
+}  // namespace lumora::sample

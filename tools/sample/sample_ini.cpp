@@ -1,0 +1,46 @@
+#include "sample/sample_ini.h"
+
+#include <lumora/support/paths.h>
+
+#include <cstdio>
+
+#include "sample/sample_files.h"
+
+namespace lumora::sample {
+namespace {
+
+std::string SectionName(int number) {
+  char name[16];
+  std::snprintf(name, sizeof name, "[%03d]", number);
+  return name;
+}
+
+// The second section lists its keys in another order: readers find keys in any order.
+std::string SectionText(int number, const SampleDiscipline& d) {
+  const std::string id = "Discipline=" + std::to_string(d.id) + "\r\n";
+  const std::string type = "Type=" + std::to_string(d.type) + "\r\n";
+  const std::string param = "Param=" + std::to_string(d.param) + "\r\n";
+  const std::string keys = number == 2 ? param + id + type : id + type + param;
+  return "\r\n" + SectionName(number) + "\r\n" + keys;
+}
+
+}  // namespace
+
+std::string DisciplineFolder(int id) {
+  char folder[16];
+  std::snprintf(folder, sizeof folder, "D%03d", id);
+  return folder + std::string(1, kPathSeparator);
+}
+
+// Configuration files come from Windows tools: CR LF line ends.
+bool WriteContentIni(const std::string& root, std::string* error) {
+  std::string text =
+      "[Common]\r\n"
+      "UNC=\\\\lumora-server\\content\\\r\n"
+      "URL=http://content.lumora.test/course/\r\n";
+  int number = 1;
+  for (const SampleDiscipline& d : kSampleDisciplines) text += SectionText(number++, d);
+  return WriteBytesFile(root + "Content.ini", text, error);
+}
+
+}  // namespace lumora::sample
