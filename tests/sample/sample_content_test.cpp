@@ -87,8 +87,8 @@ class SampleContent : public LibraryTest {
     ASSERT_TRUE(lmOpen(root().c_str(), 0));
   }
 
-  std::string UrlRoot(uint32_t discipline) const {
-    return root() + "D00" + std::to_string(discipline) + "/";
+  static std::string UrlRoot(uint32_t discipline) {
+    return "http://content.lumora.test/course/D00" + std::to_string(discipline) + "/";
   }
 
   // Loads number `n` of the exercise or element type from whichever course holds it; fails
@@ -211,7 +211,7 @@ TEST_F(SampleContent, QualityFoldersAnswerInTheSelectorsOrder) {
 
 TEST_F(SampleContent, TheArhTwinIsWhatLoads) {
   const uint32_t id = MakeResourceId(1, 1);
-  const std::string ars = ResourceFilePath(UrlRoot(1), 40, id);
+  const std::string ars = ResourceFilePath(root() + "D001/", 40, id);
   ASSERT_TRUE(FileExists(ChangeExtension(ars, "arh")));
   Type40Resource stored, loaded;
   ASSERT_TRUE(LoadArchiveFile(ars, false, stored));

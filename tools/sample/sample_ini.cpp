@@ -15,13 +15,21 @@ std::string SectionName(int number) {
   return name;
 }
 
-// The second section lists its keys in another order: readers find keys in any order.
+constexpr char kServer[] = "\\\\lumora-server\\content\\";
+constexpr char kSite[] = "http://content.lumora.test/course/";
+
+// The second section lists its keys in another order: readers find keys in any order. Each
+// discipline names its own network and web roots, below the shared ones.
 std::string SectionText(int number, const SampleDiscipline& d) {
+  char folder[16];
+  std::snprintf(folder, sizeof folder, "D%03d", d.id);
+  const std::string roots =
+      std::string("UNC=") + kServer + folder + "\r\nURL=" + kSite + folder + "/\r\n";
   const std::string id = "Discipline=" + std::to_string(d.id) + "\r\n";
   const std::string type = "Type=" + std::to_string(d.type) + "\r\n";
   const std::string param = "Param=" + std::to_string(d.param) + "\r\n";
   const std::string keys = number == 2 ? param + id + type : id + type + param;
-  return "\r\n" + SectionName(number) + "\r\n" + keys;
+  return "\r\n" + SectionName(number) + "\r\n" + keys + roots;
 }
 
 }  // namespace
@@ -34,10 +42,7 @@ std::string DisciplineFolder(int id) {
 
 // Configuration files come from Windows tools: CR LF line ends.
 bool WriteContentIni(const std::string& root, std::string* error) {
-  std::string text =
-      "[Common]\r\n"
-      "UNC=\\\\lumora-server\\content\\\r\n"
-      "URL=http://content.lumora.test/course/\r\n";
+  std::string text = std::string("[Common]\r\nUNC=") + kServer + "\r\nURL=" + kSite + "\r\n";
   int number = 1;
   for (const SampleDiscipline& d : kSampleDisciplines) text += SectionText(number++, d);
   return WriteBytesFile(root + "Content.ini", text, error);
