@@ -90,9 +90,7 @@ TEST_F(ContentCli, IndexShowsGroupsElementsAndDescriptions) {
   EXPECT_EQ(Json("index " + root() + " -d 5 --type 1005")["types"].size(), 1u);
   EXPECT_EQ(RunCli("index " + root() + " -d 5 --type 12").exit_code, 1);
   CliResult human = RunCli("index " + root() + " -d 5 --type 40");
-  EXPECT_EQ(human.out,
-            "type 40\n  sorted: false\n  groups\n    [0]\n      key: 3\n"
-            "      resources: [30]\n");
+  EXPECT_EQ(human.out, "type 40\n  sorted: false\n  key 3: [30]\n");
 }
 
 TEST_F(ContentCli, ResourceExpandsReferencesAndAnswersUrlAndUncPaths) {
@@ -112,6 +110,12 @@ TEST_F(ContentCli, ResourceExpandsReferencesAndAnswersUrlAndUncPaths) {
   nlohmann::json unc = Json("resource " + root() + " -d 5 --type 40 --id " +
                             std::to_string(kExercise) + " --path-kind unc --order 3");
   EXPECT_EQ(unc["media"][1]["path"], "\\\\srv\\c\\C0002\\r0000040\\Q3\\v0000030.mpg");
+
+  CliResult human = RunCli("resource " + root() + " -d 5 --type 40 --id 0x20001e");
+  EXPECT_NE(human.out.find("\n              text: Bonjour\n"), std::string::npos) << human.out;
+  EXPECT_NE(human.out.find("media: picture 0x00100007 in r0001005: "
+                           "http://cdn.test/c/C0001/r0001005/Q2/p0000007.swf\n"),
+            std::string::npos);
 
   nlohmann::json raw = Json("resource " + root() + " -d 5 --type 40 --id 0x20001e --no-media");
   EXPECT_EQ(raw["items"][0]["firstParts"][0]["elements"][0],

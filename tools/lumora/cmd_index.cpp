@@ -27,6 +27,12 @@ struct Options {
   bool json = false;
 };
 
+MediaRef WithUrlPath(const MediaRef& media, const ContentRequest& request) {
+  MediaRef resolved(media.kind, media.folder, media.resource);
+  lmGetMediaPath(&request, resolved, &resolved.path);
+  return resolved;
+}
+
 nlohmann::ordered_json NumbersJson(const DWordArray& numbers) {
   nlohmann::ordered_json out = nlohmann::ordered_json::array();
   for (uint32_t n : numbers) out.push_back(n);
@@ -42,7 +48,9 @@ void AddGroups(const ResourceGroups& groups, nlohmann::ordered_json& out) {
   out["groups"] = list;
 }
 
-void AddDescriptions(const Type2000Index& index, nlohmann::ordered_json& out) {
+// Description media are answered as web paths, as a host would show them.
+void AddDescriptions(const Type2000Index& index, const ContentRequest& request,
+                     nlohmann::ordered_json& out) {
   ResourceJsonWriter writer;
   nlohmann::ordered_json entries = nlohmann::ordered_json::array();
   for (uint32_t i = 0; i < index.table.size(); ++i) {
@@ -50,7 +58,7 @@ void AddDescriptions(const Type2000Index& index, nlohmann::ordered_json& out) {
     entries.push_back({{"number", index.table.KeyAt(i)},
                        {"attribute", entry.attribute},
                        {"titles", writer.Texts(entry.titles)},
-                       {"media", MediaJson(entry.media)}});
+                       {"media", MediaJson(WithUrlPath(entry.media, request))}});
   }
   out["entries"] = entries;
 }
@@ -67,12 +75,13 @@ void AddElements(const Type1005Index& index, nlohmann::ordered_json& out) {
   out["entries"] = entries;
 }
 
-nlohmann::ordered_json TypeJson(uint32_t type, const TypeIndex& index) {
+nlohmann::ordered_json TypeJson(uint32_t type, const TypeIndex& index,
+                                const ContentRequest& request) {
   nlohmann::ordered_json out{{"type", type}};
   if (const auto* groups = dynamic_cast<const GroupsIndex*>(&index)) {
     AddGroups(groups->groups, out);
   } else if (const auto* descriptions = dynamic_cast<const Type2000Index*>(&index)) {
-    AddDescriptions(*descriptions, out);
+    AddDescriptions(*descriptions, request, out);
   } else if (const auto* elements = dynamic_cast<const Type1005Index*>(&index)) {
     AddElements(*elements, out);
   } else if (const auto* plain = dynamic_cast<const PlainNumberIndex*>(&index)) {
@@ -81,24 +90,38 @@ nlohmann::ordered_json TypeJson(uint32_t type, const TypeIndex& index) {
   return out;
 }
 
+// Groups as one "key K: numbers" line each; entries in the resources' human form.
+nlohmann::ordered_json HumanIndex(const nlohmann::ordered_json& type) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::object();
+  for (const auto& [key, field] : type.items()) {
+    if (key == "type") continue;
+    if (key != "groups") {
+      out[key] = HumanForm(field);
+      continue;
+    }
+    for (const auto& group : field) {
+      out["key " + group["key"].dump()] = group["resources"];
+    }
+  }
+  return out;
+}
+
 void Run(const Options& options) {
   OpenedContent content(options.root, 0);
-  const ContentRequest request = RequestFor(options.discipline);
+  const ContentRequest request = RequestFor(options.discipline, kPathUrl);
   const ResourceIndex* index = lmGetResourceInfos(&request);
   if (index == nullptr) throw CommandFailure("discipline has no resource index");
   nlohmann::ordered_json types = nlohmann::ordered_json::array();
   for (uint32_t type : index->types()) {
     if (options.type && *options.type != type) continue;
-    types.push_back(TypeJson(type, *index->FindType(type)));
+    types.push_back(TypeJson(type, *index->FindType(type), request));
   }
   if (options.json) {
     std::cout << nlohmann::ordered_json{{"types", types}}.dump(2) << '\n';
   } else {
     for (const auto& type : types) {
       std::cout << "type " << type["type"].get<uint32_t>() << '\n';
-      nlohmann::ordered_json body = type;
-      body.erase("type");
-      PrintTree(std::cout, body, 2);
+      PrintTree(std::cout, HumanIndex(type), 2);
     }
   }
   if (options.type && types.empty()) {

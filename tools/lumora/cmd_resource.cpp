@@ -29,15 +29,6 @@ struct Options {
   bool json = false;
 };
 
-void PrintMediaLines(const nlohmann::ordered_json& media) {
-  for (const auto& m : media) {
-    const std::string path = m["path"].get<std::string>();
-    std::printf("  medium kind %u folder %u resource 0x%08x  %s\n", m["kind"].get<uint32_t>(),
-                m["folder"].get<uint32_t>(), m["resource"].get<uint32_t>(),
-                path.empty() ? "(not found)" : path.c_str());
-  }
-}
-
 void Run(const Options& options) {
   const uint32_t resource_id = ParseNumber(options.id, "resource id");
   std::unique_ptr<ExerciseResource> resource = NewResource(options.type);
@@ -67,8 +58,7 @@ void Run(const Options& options) {
     for (const char* head : {"ok", "type", "resourceId", "course", "number", "media"}) {
       fields.erase(head);
     }
-    PrintTree(std::cout, fields, 2);
-    PrintMediaLines(out["media"]);
+    PrintTree(std::cout, HumanForm(fields), 2);
   }
   if (!ok)
     throw CommandFailure("resource " + options.id + " of type " + std::to_string(options.type) +

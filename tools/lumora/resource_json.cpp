@@ -2,6 +2,10 @@
 
 #include <lumora/resources/types/type40.h>
 
+#include <cstdio>
+#include <initializer_list>
+#include <string>
+
 #include "content_args.h"
 
 namespace lumora::cli {
@@ -46,7 +50,61 @@ void Type40Fields(ResourceJsonWriter& writer, const Type40Resource& resource,
   out["items"] = items;
 }
 
+bool Has(const nlohmann::ordered_json& value, std::initializer_list<const char*> keys) {
+  if (!value.is_object()) return false;
+  for (const char* key : keys) {
+    if (!value.contains(key)) return false;
+  }
+  return true;
+}
+
+std::string TextLine(const nlohmann::ordered_json& text) {
+  std::string line = text["text"].get<std::string>();
+  if (text["codePage"] != 1252) line += " (code page " + text["codePage"].dump() + ")";
+  return line;
+}
+
+std::string MediaLine(const nlohmann::ordered_json& media) {
+  static const char* const kKinds[] = {"medium", "sound", "picture", "video"};
+  const uint32_t kind = media["kind"].get<uint32_t>();
+  char head[96];
+  std::snprintf(head, sizeof head, "%s 0x%08x in r%07u: ", kind < 4 ? kKinds[kind] : "medium",
+                media["resource"].get<uint32_t>(), media["folder"].get<uint32_t>());
+  const std::string path = media["path"].get<std::string>();
+  return head + (path.empty() ? std::string("(no path)") : path);
+}
+
+bool IsLeftOut(const nlohmann::ordered_json& value) {
+  return value.is_null() || (value.is_string() && value.get<std::string>().empty()) ||
+         (value.is_array() && value.empty()) || (value.is_object() && value.empty());
+}
+
 }  // namespace
+
+nlohmann::ordered_json HumanForm(const nlohmann::ordered_json& value) {
+  if (Has(value, {"codePage", "text"}) && !value.contains("language")) return TextLine(value);
+  if (Has(value, {"kind", "folder", "resource", "path"})) {
+    return value["kind"] == 0 ? nlohmann::ordered_json() : nlohmann::ordered_json(MediaLine(value));
+  }
+  if (value.is_array() && !value.empty() && Has(value[0], {"language", "text"})) {
+    nlohmann::ordered_json texts = nlohmann::ordered_json::object();
+    for (const auto& text : value) texts["language " + text["language"].dump()] = TextLine(text);
+    return texts;
+  }
+  if (value.is_array()) {
+    nlohmann::ordered_json out = nlohmann::ordered_json::array();
+    for (const auto& element : value) out.push_back(HumanForm(element));
+    return out;
+  }
+  if (!value.is_object()) return value;
+  nlohmann::ordered_json out = nlohmann::ordered_json::object();
+  for (const auto& [key, field] : value.items()) {
+    if ((key == "isReference" && field == false) || (key == "reference" && field == 0)) continue;
+    nlohmann::ordered_json human = HumanForm(field);
+    if (!IsLeftOut(human)) out[key] = std::move(human);
+  }
+  return out;
+}
 
 nlohmann::ordered_json BytesJson(const ByteArray& bytes) {
   nlohmann::ordered_json out = nlohmann::ordered_json::array();

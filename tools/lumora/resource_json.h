@@ -49,4 +49,8 @@ nlohmann::ordered_json RecordsJson(const TypedArray<RawRecord<N>>& records) {
 
 nlohmann::ordered_json BytesJson(const ByteArray& bytes);
 
+// The form for people of a JSON answer built here: texts, translations and media on one line
+// each, media without a kind and empty or default values left out.
+nlohmann::ordered_json HumanForm(const nlohmann::ordered_json& value);
+
 }  // namespace lumora::cli
