@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The tour behind `make demo`: writes the sample content and shows what the tool can do so far.
-set -euo pipefail
+set -eu  # no pipefail: tour steps cut long output short with head
 lumora=${1:-build/lumora}
 dir=${2:-demo-content}
 export lumora dir
@@ -15,6 +15,16 @@ rm -rf "$dir"
 step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
+step "Every configured discipline (9 has Type 1: listed, never opened)" 'lumora disciplines $dir'
+step "What opening registers for discipline 1" 'lumora open $dir --filter 1'
+step "Discipline 1's type-40 index: resource numbers by group key" 'lumora index $dir -d 1 --type 40'
+step "Its descriptions (type 2000)" 'lumora index $dir -d 1 --type 2000 | head -16'
+step "A type-40 resource (its .arh twin wins), references expanded, media as web paths" \
+  'lumora resource $dir -d 1 --type 40 --id 0x100001 | head -40'
+step "The same resource's media as network paths, Q3 tried first" \
+  'lumora resource $dir -d 1 --type 40 --id 0x100001 --path-kind unc --order 3 | grep -o "[^ ]*lumora-server[^] ]*" | sort -u'
+step "One medium" 'lumora media $dir -d 1 --kind 2 --folder 1005 --resource 0x100001 --path-kind url'
+step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'
 step "Checksums as CRCFile.ini stores them" 'lumora crc $dir/Content.ini --json'
 step "Code page 1251 bytes decoded to UTF-8" "printf '\\xcf\\xf0\\xe8\\xe2\\xe5\\xf2\\n' | lumora codepage decode 1251"
