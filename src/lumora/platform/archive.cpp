@@ -18,7 +18,7 @@ void Archive::Fill() {
   end_ = stream_.Read(buffer_, kBufferSize);
 }
 
-void Archive::Read(void* buffer, size_t n) {
+void Archive::ReadSlow(void* buffer, size_t n) {
   auto* out = static_cast<uint8_t*>(buffer);
   while (n > 0) {
     Fill();
@@ -32,7 +32,7 @@ void Archive::Read(void* buffer, size_t n) {
   }
 }
 
-void Archive::Write(const void* buffer, size_t n) {
+void Archive::WriteSlow(const void* buffer, size_t n) {
   if (n == 0) return;
   const auto* in = static_cast<const uint8_t*>(buffer);
   if (n >= kBufferSize) {
@@ -55,38 +55,6 @@ void Archive::Flush() {
 void Archive::Require(uint64_t n) {
   uint64_t available = (end_ - begin_) + stream_.Remaining();
   if (available < n) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "stored count too large");
-}
-
-uint8_t Archive::ReadU8() {
-  uint8_t v;
-  Read(&v, 1);
-  return v;
-}
-
-uint16_t Archive::ReadU16() {
-  uint8_t b[2];
-  Read(b, 2);
-  return DecodeU16(b);
-}
-
-uint32_t Archive::ReadU32() {
-  uint8_t b[4];
-  Read(b, 4);
-  return DecodeU32(b);
-}
-
-void Archive::WriteU8(uint8_t v) { Write(&v, 1); }
-
-void Archive::WriteU16(uint16_t v) {
-  uint8_t b[2];
-  EncodeU16(b, v);
-  Write(b, 2);
-}
-
-void Archive::WriteU32(uint32_t v) {
-  uint8_t b[4];
-  EncodeU32(b, v);
-  Write(b, 4);
 }
 
 void Archive::Io(uint8_t& v) { IsStoring() ? WriteU8(v) : void(v = ReadU8()); }

@@ -4,8 +4,11 @@
 // whole file is loaded or stored.
 #pragma once
 
+#include <lumora/platform/coding.h>
+
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -36,9 +39,24 @@ class Archive {
   bool IsLoading() const { return mode_ == Mode::kLoad; }
   bool IsStoring() const { return mode_ == Mode::kStore; }
 
-  // Reads exactly n bytes or throws kEndOfFile.
-  void Read(void* buffer, size_t n);
-  void Write(const void* buffer, size_t n);
+  // Reads exactly n bytes or throws kEndOfFile. Inline for the common case of a small field
+  // already buffered: loading calls it once per stored field.
+  void Read(void* buffer, size_t n) {
+    if (n <= kSmallField && n <= end_ - begin_) {
+      std::memcpy(buffer, buffer_ + begin_, n);
+      begin_ += n;
+      return;
+    }
+    ReadSlow(buffer, n);
+  }
+  void Write(const void* buffer, size_t n) {
+    if (n <= kSmallField && n < kBufferSize - end_) {
+      std::memcpy(buffer_ + end_, buffer, n);
+      end_ += n;
+      return;
+    }
+    WriteSlow(buffer, n);
+  }
   // Writes out what is buffered (store mode); throws kWriteFault when the stream refuses it.
   void Flush();
 
@@ -48,12 +66,32 @@ class Archive {
   // True when a loading archive has no buffered byte left (the stream may still hold more).
   bool AtEnd() const { return begin_ == end_; }
 
-  uint8_t ReadU8();
-  uint16_t ReadU16();
-  uint32_t ReadU32();
-  void WriteU8(uint8_t v);
-  void WriteU16(uint16_t v);
-  void WriteU32(uint32_t v);
+  uint8_t ReadU8() {
+    uint8_t v;
+    Read(&v, 1);
+    return v;
+  }
+  uint16_t ReadU16() {
+    uint8_t b[2];
+    Read(b, 2);
+    return DecodeU16(b);
+  }
+  uint32_t ReadU32() {
+    uint8_t b[4];
+    Read(b, 4);
+    return DecodeU32(b);
+  }
+  void WriteU8(uint8_t v) { Write(&v, 1); }
+  void WriteU16(uint16_t v) {
+    uint8_t b[2];
+    EncodeU16(b, v);
+    Write(b, 2);
+  }
+  void WriteU32(uint32_t v) {
+    uint8_t b[4];
+    EncodeU32(b, v);
+    Write(b, 4);
+  }
 
   // Stores or loads one value, whichever the mode is.
   void Io(uint8_t& v);
@@ -63,7 +101,11 @@ class Archive {
   void IoBool(bool& v);
 
  private:
+  static constexpr size_t kSmallField = 32;
+
   void Fill();
+  void ReadSlow(void* buffer, size_t n);
+  void WriteSlow(const void* buffer, size_t n);
 
   Stream& stream_;
   Mode mode_;

@@ -6,16 +6,17 @@
 
 namespace lumora {
 
-FileStream::FileStream(File& file) : file_(file), size_(file.Size()) {}
+FileStream::FileStream(File& file) : file_(file), size_(file.Size()), position_(file.Position()) {}
 
-size_t FileStream::Read(void* buffer, size_t n) { return file_.Read(buffer, n); }
+size_t FileStream::Read(void* buffer, size_t n) {
+  const size_t got = file_.Read(buffer, n);
+  position_ += got;
+  return got;
+}
 
 bool FileStream::Write(const void* buffer, size_t n) { return file_.Write(buffer, n); }
 
-uint64_t FileStream::Remaining() const {
-  uint64_t pos = file_.Position();
-  return pos < size_ ? size_ - pos : 0;
-}
+uint64_t FileStream::Remaining() const { return position_ < size_ ? size_ - position_ : 0; }
 
 size_t MemoryStream::Read(void* buffer, size_t n) {
   size_t take = std::min(n, bytes_.size() - pos_);

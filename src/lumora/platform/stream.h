@@ -29,6 +29,9 @@ class FileStream : public Stream {
  private:
   File& file_;
   uint64_t size_;
+  // Counted here rather than asked of the file: archives ask for the bytes left before every
+  // stored count, and a system call each time would dominate reading an index.
+  uint64_t position_;
 };
 
 class MemoryStream : public Stream {
