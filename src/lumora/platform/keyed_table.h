@@ -93,6 +93,7 @@ class KeyedTable : public Object {
     if (keys_.size() != count) {
       throw ArchiveError(ArchiveError::Kind::kBadFormat, "key count differs from entry count");
     }
+    objects_.reserve(count);  // the keys were read, so the file holds at least count entries
     for (uint32_t i = 0; i < count; ++i) {
       auto object = std::make_unique<T>();
       object->Serialize(ar);
