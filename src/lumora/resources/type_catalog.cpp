@@ -2,9 +2,20 @@
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type12.h>
+#include <lumora/resources/types/type13.h>
+#include <lumora/resources/types/type15.h>
+#include <lumora/resources/types/type16.h>
+#include <lumora/resources/types/type17.h>
+#include <lumora/resources/types/type18.h>
+#include <lumora/resources/types/type2.h>
+#include <lumora/resources/types/type3.h>
+#include <lumora/resources/types/type4.h>
 #include <lumora/resources/types/type40.h>
+#include <lumora/resources/types/type7.h>
 
 #include <algorithm>
 
@@ -56,6 +67,28 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
 
 std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
   switch (type) {
+    case Type1Resource::kType:
+      return std::make_unique<Type1Resource>();
+    case Type2Resource::kType:
+      return std::make_unique<Type2Resource>();
+    case Type3Resource::kType:
+      return std::make_unique<Type3Resource>();
+    case Type4Resource::kType:
+      return std::make_unique<Type4Resource>();
+    case Type7Resource::kType:
+      return std::make_unique<Type7Resource>();
+    case Type12Resource::kType:
+      return std::make_unique<Type12Resource>();
+    case Type13Resource::kType:
+      return std::make_unique<Type13Resource>();
+    case Type15Resource::kType:
+      return std::make_unique<Type15Resource>();
+    case Type16Resource::kType:
+      return std::make_unique<Type16Resource>();
+    case Type17Resource::kType:
+      return std::make_unique<Type17Resource>();
+    case Type18Resource::kType:
+      return std::make_unique<Type18Resource>();
     case Type40Resource::kType:
       return std::make_unique<Type40Resource>();
     case kContentElementType:
