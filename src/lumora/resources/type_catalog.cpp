@@ -1,6 +1,7 @@
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/groups_index_builder.h>
 #include <lumora/resources/types/index_builders.h>
 #include <lumora/resources/types/type1.h>
 #include <lumora/resources/types/type1005.h>
@@ -101,6 +102,28 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
 bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder) {
   switch (type) {
+    case Type1Resource::kType:
+      return BuildGroupsIndex<Type1Resource>(resource_root, index_folder);
+    case Type2Resource::kType:
+      return BuildType2Index(resource_root, index_folder);
+    case Type3Resource::kType:
+      return BuildType3Index(resource_root, index_folder);
+    case Type4Resource::kType:
+      return BuildGroupsIndex<Type4Resource>(resource_root, index_folder);
+    case Type7Resource::kType:
+      return BuildType7Index(resource_root, index_folder);
+    case Type12Resource::kType:
+      return BuildType12Index(resource_root, index_folder);
+    case Type13Resource::kType:
+      return BuildType13Index(resource_root, index_folder);
+    case Type15Resource::kType:
+      return BuildType15Index(resource_root, index_folder);
+    case Type16Resource::kType:
+      return BuildGroupsIndex<Type16Resource>(resource_root, index_folder);
+    case Type17Resource::kType:
+      return BuildGroupsIndex<Type17Resource>(resource_root, index_folder);
+    case Type18Resource::kType:
+      return BuildGroupsIndex<Type18Resource>(resource_root, index_folder);
     case Type40Resource::kType:
       return BuildType40Index(resource_root, index_folder);
     case kContentElementType:

@@ -14,4 +14,12 @@ bool BuildType1005Index(const std::string& resource_root, const std::string& ind
 // read back.
 bool BuildType40Index(const std::string& resource_root, const std::string& index_folder);
 
+// Usage value 1 when the resource's main list has an entry, else 0.
+bool BuildType2Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType3Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType7Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType12Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType13Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType15Index(const std::string& resource_root, const std::string& index_folder);
+
 }  // namespace lumora
