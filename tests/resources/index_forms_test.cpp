@@ -93,7 +93,8 @@ TEST(UsageIndex, FlagIsTheTopByteOfTheTypesWidth) {
   const Case cases[] = {
       {12, 1, 0, false},     {12, 1, 1, true},          {5, 2, 0x0100, true},
       {5, 2, 0x00FF, false}, {40, 4, 0x01000000, true}, {40, 4, 0x00FFFFFF, false},
-      {2, 2, 0, true},       {3, 1, 0, true},
+      {2, 2, 0, true},       {3, 1, 0, true},           {7, 2, 0, true},
+      {13, 1, 0, false},     {15, 1, 1, true},
   };
   for (const auto& c : cases) {
     auto index = NewTypeIndex(c.type);
@@ -102,7 +103,7 @@ TEST(UsageIndex, FlagIsTheTopByteOfTheTypesWidth) {
         Concat({Groups(1, {{1, {500}}}), UsageTable({500}, c.width, {c.value})}), *index))
         << c.type;
     EXPECT_EQ(index->GetResourceFlag(500), c.flag) << c.type << " " << c.value;
-    EXPECT_EQ(index->GetResourceFlag(501), c.type == 2 || c.type == 3) << c.type;
+    EXPECT_EQ(index->GetResourceFlag(501), c.type == 2 || c.type == 3 || c.type == 7) << c.type;
   }
 }
 

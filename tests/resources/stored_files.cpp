@@ -6,9 +6,11 @@
 #include <lumora/resources/types/type40.h>
 
 #include <memory>
+#include <string>
 
 #include "resources/index_bytes.h"
 #include "resources/resource_builders.h"
+#include "resources/types/text_type_samples.h"
 
 namespace lumora::testing {
 namespace {
@@ -80,6 +82,14 @@ Bytes DescriptionFile() {
   return StoreObject(index);
 }
 
+template <typename Resource>
+StoredFile SampleFile() {
+  auto resource = Sample<Resource>();
+  resource->resourceId = kStoredResourceId;
+  return {"type-" + std::to_string(Resource::kType) + " resource", Resource::kType, true,
+          StoreObject(*resource)};
+}
+
 }  // namespace
 
 std::vector<StoredFile> EveryStoredForm() {
@@ -99,6 +109,17 @@ std::vector<StoredFile> EveryStoredForm() {
       {"type-1005 number list", 1005, false, NumberListFile()},
       {"plain numbers", 1006, false, Numbers({4, 9, 2})},
       {"descriptions", 2000, false, DescriptionFile()},
+      SampleFile<Type1Resource>(),
+      SampleFile<Type2Resource>(),
+      SampleFile<Type3Resource>(),
+      SampleFile<Type4Resource>(),
+      SampleFile<Type7Resource>(),
+      SampleFile<Type12Resource>(),
+      SampleFile<Type13Resource>(),
+      SampleFile<Type15Resource>(),
+      SampleFile<Type16Resource>(),
+      SampleFile<Type17Resource>(),
+      SampleFile<Type18Resource>(),
   };
 }
 

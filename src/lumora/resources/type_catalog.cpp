@@ -1,10 +1,22 @@
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/groups_index_builder.h>
 #include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type12.h>
+#include <lumora/resources/types/type13.h>
+#include <lumora/resources/types/type15.h>
+#include <lumora/resources/types/type16.h>
+#include <lumora/resources/types/type17.h>
+#include <lumora/resources/types/type18.h>
+#include <lumora/resources/types/type2.h>
+#include <lumora/resources/types/type3.h>
+#include <lumora/resources/types/type4.h>
 #include <lumora/resources/types/type40.h>
+#include <lumora/resources/types/type7.h>
 
 #include <algorithm>
 
@@ -56,6 +68,28 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
 
 std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
   switch (type) {
+    case Type1Resource::kType:
+      return std::make_unique<Type1Resource>();
+    case Type2Resource::kType:
+      return std::make_unique<Type2Resource>();
+    case Type3Resource::kType:
+      return std::make_unique<Type3Resource>();
+    case Type4Resource::kType:
+      return std::make_unique<Type4Resource>();
+    case Type7Resource::kType:
+      return std::make_unique<Type7Resource>();
+    case Type12Resource::kType:
+      return std::make_unique<Type12Resource>();
+    case Type13Resource::kType:
+      return std::make_unique<Type13Resource>();
+    case Type15Resource::kType:
+      return std::make_unique<Type15Resource>();
+    case Type16Resource::kType:
+      return std::make_unique<Type16Resource>();
+    case Type17Resource::kType:
+      return std::make_unique<Type17Resource>();
+    case Type18Resource::kType:
+      return std::make_unique<Type18Resource>();
     case Type40Resource::kType:
       return std::make_unique<Type40Resource>();
     case kContentElementType:
@@ -68,6 +102,28 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
 bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder) {
   switch (type) {
+    case Type1Resource::kType:
+      return BuildGroupsIndex<Type1Resource>(resource_root, index_folder);
+    case Type2Resource::kType:
+      return BuildType2Index(resource_root, index_folder);
+    case Type3Resource::kType:
+      return BuildType3Index(resource_root, index_folder);
+    case Type4Resource::kType:
+      return BuildGroupsIndex<Type4Resource>(resource_root, index_folder);
+    case Type7Resource::kType:
+      return BuildType7Index(resource_root, index_folder);
+    case Type12Resource::kType:
+      return BuildType12Index(resource_root, index_folder);
+    case Type13Resource::kType:
+      return BuildType13Index(resource_root, index_folder);
+    case Type15Resource::kType:
+      return BuildType15Index(resource_root, index_folder);
+    case Type16Resource::kType:
+      return BuildGroupsIndex<Type16Resource>(resource_root, index_folder);
+    case Type17Resource::kType:
+      return BuildGroupsIndex<Type17Resource>(resource_root, index_folder);
+    case Type18Resource::kType:
+      return BuildGroupsIndex<Type18Resource>(resource_root, index_folder);
     case Type40Resource::kType:
       return BuildType40Index(resource_root, index_folder);
     case kContentElementType:

@@ -14,4 +14,13 @@ bool BuildType1005Index(const std::string& resource_root, const std::string& ind
 // read back.
 bool BuildType40Index(const std::string& resource_root, const std::string& index_folder);
 
+// Usage value 1 when the resource has something to practise, else 0: a word (type 2), a text
+// (3), a choice (7), a record after the leading one (12, 13), an item (15).
+bool BuildType2Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType3Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType7Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType12Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType13Index(const std::string& resource_root, const std::string& index_folder);
+bool BuildType15Index(const std::string& resource_root, const std::string& index_folder);
+
 }  // namespace lumora
