@@ -1,6 +1,6 @@
 // One well-formed file of every stored form that the library reads: the resource files of
-// types 40 and 1005 and an index file of each index form. Every field that has a stored form
-// holds something, so that every count, length and flag of the form is on disk.
+// every type with a resource class and an index file of each index form. Every field that has a
+// stored form holds something, so that every count, length and flag of the form is on disk.
 #pragma once
 
 #include <cstdint>
