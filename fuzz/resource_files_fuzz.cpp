@@ -1,39 +1,29 @@
-// Feeds arbitrary bytes to the resource file loaders of types 40 and 1005, then stores what was
-// read, so that a partly read object is also walked.
+// Feeds arbitrary bytes to the resource file loaders: the first byte picks one of the exercise
+// types that has a resource class, the rest is the file. What was read is stored again, so that
+// a partly read object is also walked.
 #include <lumora/platform/archive.h>
 #include <lumora/platform/stream.h>
-#include <lumora/resources/types/type1005.h>
-#include <lumora/resources/types/type40.h>
+#include <lumora/resources/type_catalog.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
-namespace {
-
-template <typename T>
-void LoadAndStore(const uint8_t* data, size_t size) {
-  T resource;
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  if (size == 0) return 0;
+  const uint32_t type = lumora::kExerciseTypes[data[0] % lumora::kExerciseTypes.size()];
+  std::unique_ptr<lumora::ExerciseResource> resource = lumora::NewResource(type);
+  if (!resource) return 0;
   try {
-    lumora::MemoryStream in(std::vector<uint8_t>(data, data + size));
+    lumora::MemoryStream in(std::vector<uint8_t>(data + 1, data + size));
     lumora::Archive load(in, lumora::Archive::Mode::kLoad);
-    resource.Serialize(load);
+    resource->Serialize(load);
   } catch (const lumora::ArchiveError&) {
   }
   lumora::MemoryStream out;
   lumora::Archive store(out, lumora::Archive::Mode::kStore);
-  resource.Serialize(store);
+  resource->Serialize(store);
   store.Flush();
-}
-
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  if (size == 0) return 0;
-  if (data[0] % 2 == 0) {
-    LoadAndStore<lumora::Type40Resource>(data + 1, size - 1);
-  } else {
-    LoadAndStore<lumora::ContentElement>(data + 1, size - 1);
-  }
   return 0;
 }
