@@ -2,6 +2,7 @@
 
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type21_index.h>
 #include <lumora/resources/types/type1005_index.h>
 #include <lumora/resources/types/type40.h>
 
@@ -11,6 +12,7 @@
 #include "resources/index_bytes.h"
 #include "resources/resource_builders.h"
 #include "resources/types/text_type_samples.h"
+#include "resources/types/small_type_samples.h"
 
 namespace lumora::testing {
 namespace {
@@ -90,12 +92,19 @@ StoredFile SampleFile() {
           StoreObject(*resource)};
 }
 
+Bytes ByteListFile() {
+  Type21Index index;
+  index.Add(291, 9);
+  index.Add(5, 4);
+  return StoreObject(index);
+}
+
 }  // namespace
 
 std::vector<StoredFile> EveryStoredForm() {
   const Bytes sorted = Groups(1, {{2, {7, 8}}, {5, {9}}, {9, {10, 11}}});
   const Bytes unsorted = Groups(0, {{9, {1}}, {2, {3, 4}}});
-  return {
+  std::vector<StoredFile> files = {
       {"type-40 resource", 40, true, Type40File()},
       {"type-1005 resource", 1005, true, Type1005File()},
       {"no groups", 1, false, Groups(0, {})},
@@ -120,7 +129,14 @@ std::vector<StoredFile> EveryStoredForm() {
       SampleFile<Type16Resource>(),
       SampleFile<Type17Resource>(),
       SampleFile<Type18Resource>(),
+      {"byte list", 21, false, ByteListFile()},
   };
+  static_assert(kSampleId == kStoredResourceId);
+  for (auto& sample : SmallTypeSamples()) {
+    files.push_back({"type-" + std::to_string(sample->GetType()) + " resource", sample->GetType(),
+                     true, StoreObject(*sample)});
+  }
+  return files;
 }
 
 }  // namespace lumora::testing

@@ -96,6 +96,21 @@ bool MediaRef::BuildPath(const std::string& local_root, uint32_t path_kind,
   return false;
 }
 
+std::vector<std::string> MediaRef::CandidatePaths(const std::string& local_root,
+                                                  uint8_t quality_folder) const {
+  const KindFiles* files = FilesOf(kind);
+  if (folder == 0 || files == nullptr) return {};
+  const std::string stem = local_root + CourseFolderName(CourseOf(resource)) + kPathSeparator +
+                           NumberedName('r', folder) + kPathSeparator +
+                           QualityFolderName(quality_folder) + kPathSeparator +
+                           NumberedName(files->stem_letter, NumberOf(resource));
+  std::vector<std::string> paths;
+  for (std::string_view ext : files->extensions) {
+    if (!ext.empty()) paths.push_back(stem + std::string(ext));
+  }
+  return paths;
+}
+
 std::string GlossaryMediaPattern(uint32_t path_kind, const std::string& root) {
   const char sep = SeparatorOf(path_kind);
   if (sep == '\0') return std::string();

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lumora {
 
@@ -28,6 +29,10 @@ class MediaRef : public Object {
   // true. Any other path kind, folder 0, an unknown kind or no file: false, `path` untouched.
   bool BuildPath(const std::string& local_root, uint32_t path_kind, const std::string& chosen_root,
                  uint8_t selector);
+  // The local files a lookup tries in quality folder `quality_folder` below local_root, in the
+  // order it tries them; none for folder 0 or an unknown kind.
+  std::vector<std::string> CandidatePaths(const std::string& local_root,
+                                          uint8_t quality_folder) const;
 
   uint32_t kind = 0;
   uint32_t folder = 0;

@@ -1,5 +1,6 @@
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type21_index.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/groups_index_builder.h>
 #include <lumora/resources/types/index_builders.h>
@@ -17,8 +18,17 @@
 #include <lumora/resources/types/type4.h>
 #include <lumora/resources/types/type40.h>
 #include <lumora/resources/types/type7.h>
+#include <lumora/resources/types/type10.h>
+#include <lumora/resources/types/type14.h>
+#include <lumora/resources/types/type19.h>
+#include <lumora/resources/types/type20.h>
+#include <lumora/resources/types/type21.h>
+#include <lumora/resources/types/type28.h>
+#include <lumora/resources/types/type5.h>
+#include <lumora/resources/types/type9.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace lumora {
 
@@ -55,6 +65,8 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
       return std::make_unique<UsageIndex<uint8_t, kTopByte>>();
     case 40:
       return std::make_unique<UsageIndex<uint32_t, kTopByte>>();
+    case 21:
+      return std::make_unique<Type21Index>();
     case 1005:
       return std::make_unique<Type1005Index>();
     case 1006:
@@ -90,6 +102,22 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
       return std::make_unique<Type17Resource>();
     case Type18Resource::kType:
       return std::make_unique<Type18Resource>();
+    case Type5Resource::kType:
+      return std::make_unique<Type5Resource>();
+    case Type9Resource::kType:
+      return std::make_unique<Type9Resource>();
+    case Type10Resource::kType:
+      return std::make_unique<Type10Resource>();
+    case Type14Resource::kType:
+      return std::make_unique<Type14Resource>();
+    case Type19Resource::kType:
+      return std::make_unique<Type19Resource>();
+    case Type20Resource::kType:
+      return std::make_unique<Type20Resource>();
+    case Type21Resource::kType:
+      return std::make_unique<Type21Resource>();
+    case Type28Resource::kType:
+      return std::make_unique<Type28Resource>();
     case Type40Resource::kType:
       return std::make_unique<Type40Resource>();
     case kContentElementType:
@@ -101,6 +129,7 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
 
 bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder) {
+  using enum UsageFlag;
   switch (type) {
     case Type1Resource::kType:
       return BuildGroupsIndex<Type1Resource>(resource_root, index_folder);
@@ -124,6 +153,25 @@ bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
       return BuildGroupsIndex<Type17Resource>(resource_root, index_folder);
     case Type18Resource::kType:
       return BuildGroupsIndex<Type18Resource>(resource_root, index_folder);
+    case Type5Resource::kType:
+      return BuildUsageIndex<Type5Resource, uint16_t, kTopByte>(
+          resource_root, index_folder, std::mem_fn(&Type5Resource::UsageValue));
+    case Type9Resource::kType:
+      return BuildUsageIndex<Type9Resource, uint8_t, kAlwaysTrue>(
+          resource_root, index_folder, std::mem_fn(&Type9Resource::UsageValue));
+    case Type10Resource::kType:
+      return BuildGroupsIndex<Type10Resource>(resource_root, index_folder);
+    case Type14Resource::kType:
+      return BuildGroupsIndex<Type14Resource>(resource_root, index_folder);
+    case Type19Resource::kType:
+      return BuildGroupsIndex<Type19Resource>(resource_root, index_folder);
+    case Type20Resource::kType:
+      return BuildGroupsIndex<Type20Resource>(resource_root, index_folder);
+    case Type21Resource::kType:
+      return BuildType21Index(resource_root, index_folder);
+    case Type28Resource::kType:
+      return BuildUsageIndex<Type28Resource, uint8_t, kTopByte>(
+          resource_root, index_folder, std::mem_fn(&Type28Resource::UsageValue));
     case Type40Resource::kType:
       return BuildType40Index(resource_root, index_folder);
     case kContentElementType:

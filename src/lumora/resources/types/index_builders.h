@@ -9,6 +9,9 @@ namespace lumora {
 
 bool BuildType1005Index(const std::string& resource_root, const std::string& index_folder);
 
+// Lists every resource with its first value byte; type 21 has no group key.
+bool BuildType21Index(const std::string& resource_root, const std::string& index_folder);
+
 // Rebuilds and reloads the type-1005 index first, since its usage values come from the
 // elements that its items refer to; false without writing anything when that index cannot be
 // read back.
