@@ -2,9 +2,16 @@
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1003.h>
+#include <lumora/resources/types/type1003_index.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type1006.h>
+#include <lumora/resources/types/type1010.h>
+#include <lumora/resources/types/type1010_index.h>
+#include <lumora/resources/types/type2000.h>
 #include <lumora/resources/types/type40.h>
+#include <lumora/resources/types/type8.h>
 
 #include <algorithm>
 
@@ -43,10 +50,14 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
       return std::make_unique<UsageIndex<uint8_t, kTopByte>>();
     case 40:
       return std::make_unique<UsageIndex<uint32_t, kTopByte>>();
+    case 1003:
+      return std::make_unique<Type1003Index>();
     case 1005:
       return std::make_unique<Type1005Index>();
     case 1006:
       return std::make_unique<PlainNumberIndex>();
+    case 1010:
+      return std::make_unique<Type1010Index>();
     case 2000:
       return std::make_unique<Type2000Index>();
     default:
@@ -56,10 +67,20 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
 
 std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
   switch (type) {
+    case Type8Resource::kType:
+      return std::make_unique<Type8Resource>();
     case Type40Resource::kType:
       return std::make_unique<Type40Resource>();
+    case Type1003Resource::kType:
+      return std::make_unique<Type1003Resource>();
     case kContentElementType:
       return std::make_unique<ContentElement>();
+    case Type1006Resource::kType:
+      return std::make_unique<Type1006Resource>();
+    case Type1010Resource::kType:
+      return std::make_unique<Type1010Resource>();
+    case Type2000Resource::kType:
+      return std::make_unique<Type2000Resource>();
     default:
       return nullptr;
   }
@@ -68,10 +89,20 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
 bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder) {
   switch (type) {
+    case Type8Resource::kType:
+      return BuildType8Index(resource_root, index_folder);
     case Type40Resource::kType:
       return BuildType40Index(resource_root, index_folder);
+    case Type1003Resource::kType:
+      return BuildType1003Index(resource_root, index_folder);
     case kContentElementType:
       return BuildType1005Index(resource_root, index_folder);
+    case Type1006Resource::kType:
+      return BuildType1006Index(resource_root, index_folder);
+    case Type1010Resource::kType:
+      return BuildType1010Index(resource_root, index_folder);
+    case Type2000Resource::kType:
+      return BuildType2000Index(resource_root, index_folder);
     default:
       return false;
   }

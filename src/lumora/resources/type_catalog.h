@@ -24,7 +24,7 @@ inline constexpr std::array<uint32_t, 26> kIndexLoadOrder = {
 bool IsExerciseType(uint32_t type);
 
 // A fresh, empty index object of the type's class; null for a number that is not a type and
-// for the types whose index form is not read yet (21, 1003, 1010).
+// for the types whose index form is not read yet.
 std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type);
 
 // A fresh, empty resource object of the type's class; null for the types whose class is not
