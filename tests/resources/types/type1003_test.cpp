@@ -12,8 +12,8 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
-using testing::Link;
-using testing::QualityFolders;
+using testing::LinkRecord16;
+using testing::QualityFolderList;
 using testing::U32;
 
 constexpr uint32_t kId = 0x0010000C;  // course 1, video 12
@@ -48,7 +48,7 @@ TEST(Type1003Resource, RoundTripKeepsEveryField) {
   EXPECT_EQ(back.video.kind, kMediaVideo);
   EXPECT_EQ(back.title.codePage, 1250);
   EXPECT_EQ(back.picture.kind, kMediaPicture);
-  EXPECT_EQ(back.records[0], Link(1, 1005, 0, 7));
+  EXPECT_EQ(back.records[0], LinkRecord16(1, 1005, 0, 7));
 }
 
 TEST(Type1003Media, ResolveBuildsVideoAndPicturePaths) {
@@ -67,10 +67,10 @@ TEST(Type1003Media, ResolveBuildsVideoAndPicturePaths) {
 TEST(Type1003Media, VerifyReportsMissingVideoPictureAndLinkedFiles) {
   testing::TempDir dir;
   Type1003Resource resource = testing::RichType1003();
-  resource.records.Add(Link(0, 0, 0, 0));   // names no resource
-  resource.records.Add(Link(1, 40, 2, 8));  // course of the checked id, folder of type 40
+  resource.records.Add(LinkRecord16(0, 0, 0, 0));   // names no resource
+  resource.records.Add(LinkRecord16(1, 40, 2, 8));  // course of the checked id, folder of type 40
   std::string report = "old";
-  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolders({1}), report, 0x0020000C));
+  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolderList({1}), report, 0x0020000C));
   EXPECT_EQ(report,
             "\t\tNo video found for Item n\xB0"
             "2097164!\n"
@@ -84,10 +84,10 @@ TEST(Type1003Media, VerifyReportsMissingVideoPictureAndLinkedFiles) {
   dir.Write("C0001/r0001003/Q2/p0000012.swf", "p");
   dir.Write("C0002/r0001005/r0000007.ars", "linked");
   dir.Write("C0002/r0000040/r0000008.ars", "linked");
-  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolders({1}), report, 0x0020000C));
+  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolderList({1}), report, 0x0020000C));
   EXPECT_EQ(report, "");
   EXPECT_EQ(resource.picture.path, dir.path() + "C0001\\r0001003\\Q2\\p0000012.swf");
-  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolders({}), report, 0x0020000C));
+  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolderList({}), report, 0x0020000C));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
-using testing::QualityFolders;
+using testing::QualityFolderList;
 using testing::U32;
 
 TEST(Type1006Resource, StoredFormIsMediaTableTitleStrings) {
@@ -72,15 +72,16 @@ TEST(Type1006Media, ResolveVerifyAndCopyReachEveryMedium) {
 
   // The entry's picture is missing; the entry without a medium is not checked.
   std::string report = "old";
-  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolders({3, 1}), report, 6));
+  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolderList({3, 1}), report, 6));
   EXPECT_EQ(report, "\t\tFile not found: " + dir.path() + "C0001/r0001006/Q3/p0000009.swf!\n");
 
   dir.Write("C0001/r0001006/Q1/p0000009.swf", "entry");
-  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolders({3, 1}), report, 6));
+  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolderList({3, 1}), report, 6));
   EXPECT_EQ(report, "");
 
   testing::TempDir destination;
-  ASSERT_TRUE(resource.CopyMedia(destination.path(), 0x00200006, QualityFolders({2}), dir.path()));
+  ASSERT_TRUE(
+      resource.CopyMedia(destination.path(), 0x00200006, QualityFolderList({2}), dir.path()));
   EXPECT_EQ(destination.Read("C0002/r0001006/Q2/s0000006.swf"), "own");
   EXPECT_EQ(destination.Read("C0002/r0001006/Q2/p0000009.swf"), "entry");
 }

@@ -13,7 +13,7 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
-using testing::QualityFolders;
+using testing::QualityFolderList;
 using testing::U32;
 
 constexpr uint32_t kId = 0x0010000A;
@@ -63,7 +63,7 @@ class Type1010Media : public ::testing::Test {
  protected:
   std::string Verify(std::initializer_list<uint8_t> qs, bool* ok) {
     std::string report = "old";
-    *ok = resource_.VerifyMedia(dir_.path(), QualityFolders(qs), report, kId);
+    *ok = resource_.VerifyMedia(dir_.path(), QualityFolderList(qs), report, kId);
     return report;
   }
   std::string PathOf(const std::string& relative) const {
@@ -82,7 +82,7 @@ TEST_F(Type1010Media, NoPictureIsReportedAndCopiesNothing) {
             "1048586!\n");
   EXPECT_FALSE(ok);
   testing::TempDir destination;
-  EXPECT_FALSE(resource_.CopyMedia(destination.path(), kId, QualityFolders({1}), dir_.path()));
+  EXPECT_FALSE(resource_.CopyMedia(destination.path(), kId, QualityFolderList({1}), dir_.path()));
 }
 
 TEST_F(Type1010Media, PictureMustBeFoundAndHaveItsQ3Copy) {
@@ -104,7 +104,7 @@ TEST_F(Type1010Media, PictureMustBeFoundAndHaveItsQ3Copy) {
   EXPECT_EQ(resource_.picture.path, "u/C0001/r0001010/Q3/p0000010.swf");
 
   testing::TempDir destination;
-  ASSERT_TRUE(resource_.CopyMedia(destination.path(), kId, QualityFolders({1}), dir_.path()));
+  ASSERT_TRUE(resource_.CopyMedia(destination.path(), kId, QualityFolderList({1}), dir_.path()));
   EXPECT_EQ(destination.Read("C0001/r0001010/Q1/p0000010.swf"), "q1");
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
-using testing::QualityFolders;
+using testing::QualityFolderList;
 using testing::U32;
 
 constexpr uint32_t kId = 0x00300005;  // course 3, resource 5
@@ -35,20 +35,20 @@ TEST(Type2000Media, VerifyAndCopyTheOneMedium) {
   testing::TempDir destination;
   Type2000Resource resource;
   std::string report = "old";
-  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolders({1}), report, kId));
+  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolderList({1}), report, kId));
   EXPECT_EQ(report,
             "\t\tMedia not found for Item n\xB0"
             "3145733!\n");
-  EXPECT_FALSE(resource.CopyMedia(destination.path(), kId, QualityFolders({1}), dir.path()));
+  EXPECT_FALSE(resource.CopyMedia(destination.path(), kId, QualityFolderList({1}), dir.path()));
 
   resource.description.media = MediaRef(kMediaVideo, 2000, kId);
-  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolders({2}), report, kId));
+  EXPECT_FALSE(resource.VerifyMedia(dir.path(), QualityFolderList({2}), report, kId));
   EXPECT_EQ(report, "\t\tFile not found: " + dir.path() + "C0003/r0002000/Q2/v0000005.mpg!\n");
 
   dir.Write("C0003/r0002000/Q1/v0000005.avi", "video");
-  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolders({2}), report, kId));
+  EXPECT_TRUE(resource.VerifyMedia(dir.path(), QualityFolderList({2}), report, kId));
   EXPECT_EQ(report, "");
-  ASSERT_TRUE(resource.CopyMedia(destination.path(), kId, QualityFolders({1}), dir.path()));
+  ASSERT_TRUE(resource.CopyMedia(destination.path(), kId, QualityFolderList({1}), dir.path()));
   EXPECT_EQ(destination.Read("C0003/r0002000/Q3/v0000005.avi"), "video");
 }
 

@@ -16,8 +16,8 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
-using testing::Link;
-using testing::QualityFolders;
+using testing::LinkRecord16;
+using testing::QualityFolderList;
 using testing::U32;
 
 constexpr uint32_t kId = 0x00100123;  // course 1, resource 291
@@ -26,7 +26,7 @@ TEST(Type8Resource, StoredFormPutsTheKeyBeforeTheQuestions) {
   Type8Resource resource;
   resource.resourceId = kId;
   resource.groupKey = 9;
-  resource.items.AddNew().question = testing::Text(u"Q");
+  resource.items.AddNew().question = testing::PlainMarkedText(u"Q");
   const Bytes empty_typed16 = Concat({U32(16), U32(0), U32(0)});
   const Bytes empty_typed24 = Concat({U32(24), U32(0), U32(0)});
   const Bytes expected = Concat({testing::ResourceHead(kId),
@@ -51,11 +51,11 @@ TEST(Type8Resource, RoundTripKeepsEveryField) {
   EXPECT_EQ(testing::StoreObject(back), bytes);
   EXPECT_EQ(back.groupKey, 4);
   ASSERT_EQ(back.records.size(), 1u);
-  EXPECT_EQ(back.records[0], Link(3, 1003, 0, 12));
+  EXPECT_EQ(back.records[0], LinkRecord16(3, 1003, 0, 12));
   ASSERT_EQ(back.items.size(), 2u);
   const VideoQuestion& first = back.items[0];
   EXPECT_EQ(first.question.text.view(), u"Why?");
-  EXPECT_EQ(first.question.records16[0], Link(0, 1003, 2, 12));
+  EXPECT_EQ(first.question.records16[0], LinkRecord16(0, 1003, 2, 12));
   EXPECT_EQ(first.question.records24[0].bytes[2], 7);
   EXPECT_EQ(first.firstTexts[0].text.view(), u"Because");
   ASSERT_EQ(first.secondTexts.size(), 2u);
@@ -65,10 +65,10 @@ TEST(Type8Resource, RoundTripKeepsEveryField) {
 }
 
 TEST(Type8Resource, OnlyKind3LinksToTheWholeType1003AreVideoLinks) {
-  EXPECT_TRUE(IsVideoLink(Link(3, 1003, 0, 12)));
-  EXPECT_FALSE(IsVideoLink(Link(3, 1003, 1, 12)));  // a paragraph makes it an item's link
-  EXPECT_FALSE(IsVideoLink(Link(1, 1003, 0, 12)));
-  EXPECT_FALSE(IsVideoLink(Link(3, 1005, 0, 12)));
+  EXPECT_TRUE(IsVideoLink(LinkRecord16(3, 1003, 0, 12)));
+  EXPECT_FALSE(IsVideoLink(LinkRecord16(3, 1003, 1, 12)));  // a paragraph makes it an item's link
+  EXPECT_FALSE(IsVideoLink(LinkRecord16(1, 1003, 0, 12)));
+  EXPECT_FALSE(IsVideoLink(LinkRecord16(3, 1005, 0, 12)));
 }
 
 // A content root holding video resources of course 1 and the files that go with them.
@@ -77,7 +77,7 @@ class Type8Media : public ::testing::Test {
   void PutVideoResource(uint32_t number, std::initializer_list<const char16_t*> paragraphs) {
     Type1003Resource video;
     for (const char16_t* text : paragraphs) {
-      video.script.paragraphs.Add(std::make_unique<MarkedText>(testing::Text(text)));
+      video.script.paragraphs.Add(std::make_unique<MarkedText>(testing::PlainMarkedText(text)));
     }
     testing::WriteResource(root(), 0x00100000 | number, video);
   }
@@ -89,7 +89,7 @@ class Type8Media : public ::testing::Test {
   }
   std::string Verify(Type8Resource& resource, std::initializer_list<uint8_t> qs, bool* ok) {
     std::string report = "old";
-    *ok = resource.VerifyMedia(root(), QualityFolders(qs), report, kId);
+    *ok = resource.VerifyMedia(root(), QualityFolderList(qs), report, kId);
     return report;
   }
   const std::string& root() const { return dir_.path(); }
@@ -99,7 +99,7 @@ class Type8Media : public ::testing::Test {
 
 TEST_F(Type8Media, NoLinksAtAllIsTheOnlyLine) {
   Type8Resource resource;
-  resource.items.AddNew().question.records16.Add(Link(3, 1003, 5, 12));
+  resource.items.AddNew().question.records16.Add(LinkRecord16(3, 1003, 5, 12));
   bool ok = true;
   EXPECT_EQ(Verify(resource, {1}, &ok), "\t\tLinks not found for Item: 1048867!\n");
   EXPECT_FALSE(ok);
@@ -109,9 +109,9 @@ TEST_F(Type8Media, VideoLinkReportsBothVideoNamesAndEachMissingPicture) {
   PutVideoResource(12, {u"One"});
   Put("Q1/p0000012.swf");
   Type8Resource resource;
-  resource.records.Add(Link(3, 1003, 0, 12));
-  resource.records.Add(Link(3, 1003, 1, 13));  // not a resource-level video link
-  resource.records.Add(Link(2, 1003, 0, 14));
+  resource.records.Add(LinkRecord16(3, 1003, 0, 12));
+  resource.records.Add(LinkRecord16(3, 1003, 1, 13));  // not a resource-level video link
+  resource.records.Add(LinkRecord16(2, 1003, 0, 14));
   bool ok = true;
   const std::string video = PathOf("Q3/v0000012");
   EXPECT_EQ(Verify(resource, {1, 2, 3}, &ok),
@@ -132,15 +132,15 @@ TEST_F(Type8Media, VideoLinkReportsBothVideoNamesAndEachMissingPicture) {
 TEST_F(Type8Media, ItemLinksNeedAReadableVideoWithAFilledParagraph) {
   PutVideoResource(12, {u"One", u"", u"Three"});
   Type8Resource resource;
-  resource.records.Add(Link(1, 1005, 0, 1));  // links exist, none of them to a video
+  resource.records.Add(LinkRecord16(1, 1005, 0, 1));  // links exist, none of them to a video
   MarkedText& first = resource.items.AddNew().question;
-  first.records16.Add(Link(0, 1003, 1, 12));  // fine
-  first.records16.Add(Link(3, 1003, 2, 12));  // empty
-  first.records16.Add(Link(3, 1003, 4, 12));  // beyond the three paragraphs
-  first.records16.Add(Link(3, 1005, 9, 12));  // not a video: ignored
+  first.records16.Add(LinkRecord16(0, 1003, 1, 12));  // fine
+  first.records16.Add(LinkRecord16(3, 1003, 2, 12));  // empty
+  first.records16.Add(LinkRecord16(3, 1003, 4, 12));  // beyond the three paragraphs
+  first.records16.Add(LinkRecord16(3, 1005, 9, 12));  // not a video: ignored
   MarkedText& second = resource.items.AddNew().question;
-  second.records16.Add(Link(3, 1003, 1, 13));  // no such video
-  second.records16.Add(Link(3, 1003, 0, 12));  // paragraphs count from 1
+  second.records16.Add(LinkRecord16(3, 1003, 1, 13));  // no such video
+  second.records16.Add(LinkRecord16(3, 1003, 0, 12));  // paragraphs count from 1
   bool ok = true;
   EXPECT_EQ(Verify(resource, {1}, &ok),
             "\t\tParagraph n\xB0"
@@ -158,7 +158,7 @@ TEST_F(Type8Media, ItemLinksNeedAReadableVideoWithAFilledParagraph) {
 class Type8Copy : public Type8Media {
  protected:
   bool Copy(Type8Resource& resource, std::initializer_list<uint8_t> qs) {
-    return resource.CopyMedia(destination_.path(), kId, QualityFolders(qs), root());
+    return resource.CopyMedia(destination_.path(), kId, QualityFolderList(qs), root());
   }
   std::string Copied(const std::string& relative) const {
     const std::string path = destination_.path() + "C0001/r0001003/" + relative;
@@ -177,8 +177,8 @@ TEST_F(Type8Copy, AviIsPreferredAndGoesToQ3WithTheFileAndPictures) {
   }
   destination_.Write("C0001/r0001003/Q1/p0000012.swf", "old");
   Type8Resource resource;
-  resource.records.Add(Link(3, 1003, 0, 12));
-  resource.records.Add(Link(3, 1003, 0, 13));
+  resource.records.Add(LinkRecord16(3, 1003, 0, 12));
+  resource.records.Add(LinkRecord16(3, 1003, 0, 13));
   ASSERT_TRUE(Copy(resource, {1, 2}));
   EXPECT_EQ(Copied("Q3/v0000012.avi"), "Q3/v0000012.avi");
   EXPECT_EQ(Copied("Q3/v0000012.mpg"), "(none)");
@@ -194,11 +194,11 @@ TEST_F(Type8Copy, AviIsPreferredAndGoesToQ3WithTheFileAndPictures) {
 TEST_F(Type8Copy, NoLinksNoVideoOrAnUncreatableFolderFail) {
   Type8Resource resource;
   EXPECT_FALSE(Copy(resource, {1}));
-  resource.records.Add(Link(1, 1005, 0, 1));
+  resource.records.Add(LinkRecord16(1, 1005, 0, 1));
   EXPECT_TRUE(Copy(resource, {1}));  // links, but none to a video: nothing to copy
   EXPECT_TRUE(std::filesystem::is_empty(destination_.path()));
 
-  resource.records.Add(Link(3, 1003, 0, 12));
+  resource.records.Add(LinkRecord16(3, 1003, 0, 12));
   PutVideoResource(12, {u"One"});
   EXPECT_FALSE(Copy(resource, {1}));  // neither video exists
   Put("Q3/v0000012.mpg");

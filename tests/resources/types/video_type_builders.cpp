@@ -6,7 +6,7 @@
 
 namespace lumora::testing {
 
-Record16 Link(uint16_t kind, uint16_t type, uint16_t paragraph, uint32_t number) {
+Record16 LinkRecord16(uint16_t kind, uint16_t type, uint16_t paragraph, uint32_t number) {
   Record16 record;
   EncodeU16(&record.bytes[0], kind);
   record.bytes[2] = 0x5A;  // the authoring tool's own bytes must survive untouched
@@ -16,36 +16,36 @@ Record16 Link(uint16_t kind, uint16_t type, uint16_t paragraph, uint32_t number)
   return record;
 }
 
-ByteArray QualityFolders(std::initializer_list<uint8_t> folders) {
+ByteArray QualityFolderList(std::initializer_list<uint8_t> folders) {
   ByteArray array;
   for (uint8_t q : folders) array.Add(q);
   return array;
 }
 
-MarkedText Text(const std::u16string& text) { return MarkedText(1252, WideText(text)); }
+MarkedText PlainMarkedText(const std::u16string& text) { return MarkedText(1252, WideText(text)); }
 
 Type8Resource RichType8() {
   Type8Resource resource;
   resource.resourceId = 0x00100123;
   resource.groupKey = 4;
-  resource.records.Add(Link(3, 1003, 0, 12));
+  resource.records.Add(LinkRecord16(3, 1003, 0, 12));
   VideoQuestion& first = resource.items.AddNew();
-  first.question = Text(u"Why?");
-  first.question.records16.Add(Link(0, 1003, 2, 12));
+  first.question = PlainMarkedText(u"Why?");
+  first.question.records16.Add(LinkRecord16(0, 1003, 2, 12));
   first.question.records24.Add(Record24{{9, 8, 7}});
-  first.firstTexts.Add(std::make_unique<MarkedText>(Text(u"Because")));
-  first.secondTexts.Add(std::make_unique<MarkedText>(Text(u"Never")));
-  first.secondTexts.Add(std::make_unique<MarkedText>(Text(u"Always")));
-  resource.items.AddNew().question = Text(u"Who?");
+  first.firstTexts.Add(std::make_unique<MarkedText>(PlainMarkedText(u"Because")));
+  first.secondTexts.Add(std::make_unique<MarkedText>(PlainMarkedText(u"Never")));
+  first.secondTexts.Add(std::make_unique<MarkedText>(PlainMarkedText(u"Always")));
+  resource.items.AddNew().question = PlainMarkedText(u"Who?");
   return resource;
 }
 
 Type1003Resource RichType1003() {
   Type1003Resource resource;
   resource.resourceId = 0x0010000C;
-  resource.records.Add(Link(1, 1005, 0, 7));
+  resource.records.Add(LinkRecord16(1, 1005, 0, 7));
   for (const char16_t* text : {u"One", u"", u"Three"}) {
-    resource.script.paragraphs.Add(std::make_unique<MarkedText>(Text(text)));
+    resource.script.paragraphs.Add(std::make_unique<MarkedText>(PlainMarkedText(text)));
   }
   resource.video = MediaRef(kMediaVideo, 1003, 0x0010000C);
   resource.title = CodePageText(1250, WideText(u"Title"));
@@ -75,13 +75,13 @@ Type1010Resource RichType1010() {
   resource.groupKey = 6;
   const char16_t* texts[] = {u"First", u"Second", u"Third", u"Fourth"};
   for (size_t i = 0; i < Type1010Resource::kTextCount; ++i) {
-    resource.texts[i].text = Text(texts[i]);
+    resource.texts[i].text = PlainMarkedText(texts[i]);
     resource.texts[i].translations.Add(static_cast<uint8_t>(9 + i),
                                        CodePageText(1252, WideText(texts[i])));
   }
   resource.picture = MediaRef(kMediaPicture, 1010, 0x0010000A);
-  resource.moreTexts.Add(std::make_unique<MarkedText>(Text(u"More")));
-  resource.moreTexts.Add(std::make_unique<MarkedText>(Text(u"")));
+  resource.moreTexts.Add(std::make_unique<MarkedText>(PlainMarkedText(u"More")));
+  resource.moreTexts.Add(std::make_unique<MarkedText>(PlainMarkedText(u"")));
   return resource;
 }
 

@@ -16,11 +16,11 @@
 namespace lumora::testing {
 
 // A link record: kind, target type, paragraph inside the target and target number.
-Record16 Link(uint16_t kind, uint16_t type, uint16_t paragraph, uint32_t number);
+Record16 LinkRecord16(uint16_t kind, uint16_t type, uint16_t paragraph, uint32_t number);
 
-ByteArray QualityFolders(std::initializer_list<uint8_t> folders);
+ByteArray QualityFolderList(std::initializer_list<uint8_t> folders);
 
-MarkedText Text(const std::u16string& text);
+MarkedText PlainMarkedText(const std::u16string& text);
 
 // Group key 4; a head link to video 12; two questions, the first linking to paragraph 2 of
 // video 12 and holding texts in both lists.

@@ -18,7 +18,7 @@
 namespace lumora {
 namespace {
 
-using testing::Link;
+using testing::LinkRecord16;
 
 std::vector<uint32_t> Values(const DWordArray& array) {
   return std::vector<uint32_t>(array.begin(), array.end());
@@ -58,7 +58,7 @@ TEST_F(VideoTypesIndex, Type8GroupsAndUsableFlag) {
   Type8Resource playable = testing::RichType8();
   Type8Resource no_video = testing::RichType8();
   no_video.records.RemoveAll();
-  no_video.records.Add(Link(3, 1003, 1, 12));  // an item's kind of link
+  no_video.records.Add(LinkRecord16(3, 1003, 1, 12));  // an item's kind of link
   Type8Resource no_questions = testing::RichType8();
   no_questions.items.Clear();
   no_questions.groupKey = 2;

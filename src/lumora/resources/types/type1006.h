@@ -45,13 +45,14 @@ class Type1006Resource : public ExerciseResource {
   bool VerifyMedia(const std::string& root, const ByteArray& quality_folders, std::string& report,
                    uint32_t resource_id) override;
 
-  // Its own medium first, then the entries' media in table order.
-  std::vector<MediaRef*> AllMedia();
-
   MediaRef media;
   KeyedTable<CaptionedMedia> entries;
   CodePageText title;
   StringArray strings;
+
+ private:
+  // Its own medium first, then the entries' media in table order.
+  std::vector<MediaRef*> AllMedia();
 };
 
 }  // namespace lumora
