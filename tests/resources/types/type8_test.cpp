@@ -64,13 +64,6 @@ TEST(Type8Resource, RoundTripKeepsEveryField) {
   EXPECT_TRUE(back.items[1].firstTexts.empty());
 }
 
-TEST(Type8Resource, OnlyKind3LinksToTheWholeType1003AreVideoLinks) {
-  EXPECT_TRUE(IsVideoLink(LinkRecord16(3, 1003, 0, 12)));
-  EXPECT_FALSE(IsVideoLink(LinkRecord16(3, 1003, 1, 12)));  // a paragraph makes it an item's link
-  EXPECT_FALSE(IsVideoLink(LinkRecord16(1, 1003, 0, 12)));
-  EXPECT_FALSE(IsVideoLink(LinkRecord16(3, 1005, 0, 12)));
-}
-
 // A content root holding video resources of course 1 and the files that go with them.
 class Type8Media : public ::testing::Test {
  protected:
