@@ -3,7 +3,9 @@
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type21_index.h>
+#include <lumora/resources/types/type1003_index.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type1010_index.h>
 #include <lumora/resources/types/type40.h>
 
 #include <memory>
@@ -11,8 +13,9 @@
 
 #include "resources/index_bytes.h"
 #include "resources/resource_builders.h"
-#include "resources/types/text_type_samples.h"
 #include "resources/types/small_type_samples.h"
+#include "resources/types/text_type_samples.h"
+#include "resources/types/video_type_builders.h"
 
 namespace lumora::testing {
 namespace {
@@ -99,6 +102,32 @@ Bytes ByteListFile() {
   return StoreObject(index);
 }
 
+// Stored under kStoredResourceId, as the damaged-file tests read it.
+template <typename Resource>
+Bytes ResourceFile(Resource resource) {
+  resource.resourceId = kStoredResourceId;
+  return StoreObject(resource);
+}
+
+Bytes VideoListFile() {
+  Type1003Index index;
+  auto entry = std::make_unique<Type1003Entry>();
+  entry->paragraphCount = 3;
+  index.table.Add(12, std::move(entry));
+  return StoreObject(index);
+}
+
+Bytes SixTablesFile() {
+  Type1010Index index;
+  index.groupKeys.Add(2);
+  index.groupKeys.Add(6);
+  index.groups.FindOrInsert(6).Add(1);
+  index.groups.FindOrInsert(2).Add(4);
+  index.translated[0].Add(1);
+  index.translated[3].Add(4);
+  return StoreObject(index);
+}
+
 }  // namespace
 
 std::vector<StoredFile> EveryStoredForm() {
@@ -130,6 +159,13 @@ std::vector<StoredFile> EveryStoredForm() {
       SampleFile<Type17Resource>(),
       SampleFile<Type18Resource>(),
       {"byte list", 21, false, ByteListFile()},
+      {"type-8 resource", 8, true, ResourceFile(RichType8())},
+      {"type-1003 resource", 1003, true, ResourceFile(RichType1003())},
+      {"type-1006 resource", 1006, true, ResourceFile(RichType1006())},
+      {"type-1010 resource", 1010, true, ResourceFile(RichType1010())},
+      {"type-2000 resource", 2000, true, ResourceFile(RichType2000())},
+      {"type-1003 number list", 1003, false, VideoListFile()},
+      {"type-1010 six tables", 1010, false, SixTablesFile()},
   };
   static_assert(kSampleId == kStoredResourceId);
   for (auto& sample : SmallTypeSamples()) {

@@ -1,5 +1,5 @@
-// One well-formed file of every stored form that the library reads: a resource file of every
-// type that has a class and an index file of each index form. Every field that has a stored form
+// One well-formed file of every stored form that the library reads: the resource file of
+// every resource class and an index file of each index form. Every field that has a stored form
 // holds something, so that every count, length and flag of the form is on disk.
 #pragma once
 

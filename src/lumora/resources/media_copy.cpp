@@ -22,15 +22,15 @@ std::string LocalPathOf(const std::string& unc_path, const std::string& root) {
   return root + relative;
 }
 
-bool CopyReplacing(const std::string& from, const std::string& folder, const std::string& name) {
+}  // namespace
+
+bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name) {
   if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
   std::error_code ec;
   std::filesystem::copy_file(from, folder + name, std::filesystem::copy_options::overwrite_existing,
                              ec);
   return !ec;
 }
-
-}  // namespace
 
 MediaCopier::MediaCopier(const std::string& destination_root, uint32_t destination_id,
                          uint32_t type, const ByteArray& quality_folders,
@@ -52,8 +52,8 @@ bool MediaCopier::Copy(const MediaRef& media) const {
   for (uint8_t q : quality_folders_) {
     MediaRef found = media;
     if (!found.BuildPath(source_root_, kPathUnc, source_root_, q)) continue;
-    if (!CopyReplacing(LocalPathOf(found.path, source_root_), DestinationFolder(video ? 3 : q),
-                       FileNameOf(found.path))) {
+    if (!CopyFileInto(LocalPathOf(found.path, source_root_), DestinationFolder(video ? 3 : q),
+                      FileNameOf(found.path))) {
       return false;
     }
     if (video) break;

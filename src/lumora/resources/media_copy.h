@@ -10,6 +10,10 @@
 
 namespace lumora {
 
+// Copies the file `from` to folder + name, replacing a file already there, after creating
+// the folder and any missing parents. False when a folder cannot be created or the copy fails.
+bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name);
+
 class MediaCopier {
  public:
   // Media go below destination_root into the course folder of destination_id and the type

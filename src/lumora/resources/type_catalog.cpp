@@ -5,26 +5,33 @@
 #include <lumora/resources/types/groups_index_builder.h>
 #include <lumora/resources/types/index_builders.h>
 #include <lumora/resources/types/type1.h>
+#include <lumora/resources/types/type10.h>
+#include <lumora/resources/types/type1003.h>
+#include <lumora/resources/types/type1003_index.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type1006.h>
+#include <lumora/resources/types/type1010.h>
+#include <lumora/resources/types/type1010_index.h>
 #include <lumora/resources/types/type12.h>
 #include <lumora/resources/types/type13.h>
+#include <lumora/resources/types/type14.h>
 #include <lumora/resources/types/type15.h>
 #include <lumora/resources/types/type16.h>
 #include <lumora/resources/types/type17.h>
 #include <lumora/resources/types/type18.h>
+#include <lumora/resources/types/type19.h>
 #include <lumora/resources/types/type2.h>
+#include <lumora/resources/types/type20.h>
+#include <lumora/resources/types/type2000.h>
+#include <lumora/resources/types/type21.h>
+#include <lumora/resources/types/type28.h>
 #include <lumora/resources/types/type3.h>
 #include <lumora/resources/types/type4.h>
 #include <lumora/resources/types/type40.h>
-#include <lumora/resources/types/type7.h>
-#include <lumora/resources/types/type10.h>
-#include <lumora/resources/types/type14.h>
-#include <lumora/resources/types/type19.h>
-#include <lumora/resources/types/type20.h>
-#include <lumora/resources/types/type21.h>
-#include <lumora/resources/types/type28.h>
 #include <lumora/resources/types/type5.h>
+#include <lumora/resources/types/type7.h>
+#include <lumora/resources/types/type8.h>
 #include <lumora/resources/types/type9.h>
 
 #include <algorithm>
@@ -67,10 +74,14 @@ std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type) {
       return std::make_unique<UsageIndex<uint32_t, kTopByte>>();
     case 21:
       return std::make_unique<Type21Index>();
+    case 1003:
+      return std::make_unique<Type1003Index>();
     case 1005:
       return std::make_unique<Type1005Index>();
     case 1006:
       return std::make_unique<PlainNumberIndex>();
+    case 1010:
+      return std::make_unique<Type1010Index>();
     case 2000:
       return std::make_unique<Type2000Index>();
     default:
@@ -118,10 +129,20 @@ std::unique_ptr<ExerciseResource> NewResource(uint32_t type) {
       return std::make_unique<Type21Resource>();
     case Type28Resource::kType:
       return std::make_unique<Type28Resource>();
+    case Type8Resource::kType:
+      return std::make_unique<Type8Resource>();
     case Type40Resource::kType:
       return std::make_unique<Type40Resource>();
+    case Type1003Resource::kType:
+      return std::make_unique<Type1003Resource>();
     case kContentElementType:
       return std::make_unique<ContentElement>();
+    case Type1006Resource::kType:
+      return std::make_unique<Type1006Resource>();
+    case Type1010Resource::kType:
+      return std::make_unique<Type1010Resource>();
+    case Type2000Resource::kType:
+      return std::make_unique<Type2000Resource>();
     default:
       return nullptr;
   }
@@ -172,10 +193,20 @@ bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
     case Type28Resource::kType:
       return BuildUsageIndex<Type28Resource, uint8_t, kTopByte>(
           resource_root, index_folder, std::mem_fn(&Type28Resource::UsageValue));
+    case Type8Resource::kType:
+      return BuildType8Index(resource_root, index_folder);
     case Type40Resource::kType:
       return BuildType40Index(resource_root, index_folder);
+    case Type1003Resource::kType:
+      return BuildType1003Index(resource_root, index_folder);
     case kContentElementType:
       return BuildType1005Index(resource_root, index_folder);
+    case Type1006Resource::kType:
+      return BuildType1006Index(resource_root, index_folder);
+    case Type1010Resource::kType:
+      return BuildType1010Index(resource_root, index_folder);
+    case Type2000Resource::kType:
+      return BuildType2000Index(resource_root, index_folder);
     default:
       return false;
   }

@@ -23,8 +23,7 @@ inline constexpr std::array<uint32_t, 26> kIndexLoadOrder = {
 
 bool IsExerciseType(uint32_t type);
 
-// A fresh, empty index object of the type's class; null for a number that is not a type and
-// for the types whose index form is not read yet (1003, 1010).
+// A fresh, empty index object of the type's class; null for a number that is not a type.
 std::unique_ptr<TypeIndex> NewTypeIndex(uint32_t type);
 
 // A fresh, empty resource object of the type's class; null for the types whose class is not

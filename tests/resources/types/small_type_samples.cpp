@@ -5,7 +5,7 @@
 
 namespace lumora::testing {
 
-MarkedText SampleText(const std::u16string& text) {
+MarkedText SmallSampleText(const std::u16string& text) {
   MarkedText marked(1250, WideText(text));
   marked.records16.Add(Record16{{1, 2, 3}});
   marked.records24.Add(Record24{{4, 5, 6}});
@@ -30,7 +30,7 @@ std::unique_ptr<T> WithHead() {
 }
 
 void AddTexts(TextList& list, std::initializer_list<const char16_t*> texts) {
-  for (const char16_t* text : texts) list.Add(std::make_unique<MarkedText>(SampleText(text)));
+  for (const char16_t* text : texts) list.Add(std::make_unique<MarkedText>(SmallSampleText(text)));
 }
 
 }  // namespace
@@ -60,10 +60,10 @@ std::unique_ptr<Type9Resource> Type9Sample() {
 std::unique_ptr<Type10Resource> Type10Sample() {
   auto resource = WithHead<Type10Resource>();
   resource->groupKey = 5;
-  resource->instruction = SampleText(u"Écoutez");
+  resource->instruction = SmallSampleText(u"Écoutez");
   for (uint32_t n : {1u, 2u}) {
     TextWithMedia& word = resource->words.AddNew();
-    word.text = SampleText(u"mot");
+    word.text = SmallSampleText(u"mot");
     word.media = MediaRef(kMediaVideo, 10, MakeResourceId(1, 20 + n));
   }
   return resource;
@@ -83,11 +83,11 @@ std::unique_ptr<Type14Resource> Type14Sample() {
   for (auto* list : {&resource->firstEntries, &resource->secondEntries, &resource->thirdEntries}) {
     Type14Entry& entry = list->AddNew();
     entry.value = value++;
-    entry.text = SampleText(u"entrée");
+    entry.text = SmallSampleText(u"entrée");
   }
   resource->media.Add(std::make_unique<MediaRef>(kMediaSound, 14, kSampleId));
   resource->media.Add(std::make_unique<MediaRef>(kMediaPicture, 14, kSampleId));
-  resource->closingText = SampleText(u"Fin");
+  resource->closingText = SmallSampleText(u"Fin");
   return resource;
 }
 
@@ -109,7 +109,7 @@ std::unique_ptr<Type20Resource> Type20Sample() {
   for (uint32_t n : {1u, 2u}) {
     PatchWorkPiece& piece = resource->pieces.AddNew();
     piece.media = MediaRef(kMediaPicture, 20, MakeResourceId(1, 30 + n));
-    piece.text = SampleText(u"pièce");
+    piece.text = SmallSampleText(u"pièce");
   }
   return resource;
 }
@@ -119,10 +119,10 @@ std::unique_ptr<Type21Resource> Type21Sample() {
   resource->firstValue = 9;
   resource->secondValue = 0xFE;
   resource->title = CodePageText(1252, WideText(u"Devinette"));
-  resource->riddle = SampleText(u"Qui suis-je ?");
-  resource->answer = SampleText(u"Le vent");
+  resource->riddle = SmallSampleText(u"Qui suis-je ?");
+  resource->answer = SmallSampleText(u"Le vent");
   TextWithMedia& clue = resource->clues.AddNew();
-  clue.text = SampleText(u"Il souffle");
+  clue.text = SmallSampleText(u"Il souffle");
   clue.media = MediaRef(kMediaSound, 21, kSampleId);
   return resource;
 }

@@ -22,7 +22,7 @@ namespace lumora::testing {
 inline constexpr uint32_t kSampleId = 0x00100123;
 
 // A text with one record of each kind, so that both record arrays are on disk.
-MarkedText SampleText(const std::u16string& text);
+MarkedText SmallSampleText(const std::u16string& text);
 // A link record to resource `number` of `type` (kind 1, as the authoring tool writes them).
 Record16 LinkTo(uint32_t type, uint32_t number);
 

@@ -7,10 +7,25 @@
 
 namespace lumora {
 
+// Type 8: groups and an 8-bit usage value, 1 when the resource has questions and a video.
+bool BuildType8Index(const std::string& resource_root, const std::string& index_folder);
+
+// Type 1003: the paragraph count of every video, keyed by number.
+bool BuildType1003Index(const std::string& resource_root, const std::string& index_folder);
+
 bool BuildType1005Index(const std::string& resource_root, const std::string& index_folder);
 
 // Lists every resource with its first value byte; type 21 has no group key.
 bool BuildType21Index(const std::string& resource_root, const std::string& index_folder);
+
+// Type 1006: the numbers found, in scan order.
+bool BuildType1006Index(const std::string& resource_root, const std::string& index_folder);
+
+// Type 1010: group keys, groups, and the numbers of the resources with translated texts.
+bool BuildType1010Index(const std::string& resource_root, const std::string& index_folder);
+
+// Type 2000: every resource's description entry, keyed by number.
+bool BuildType2000Index(const std::string& resource_root, const std::string& index_folder);
 
 // Rebuilds and reloads the type-1005 index first, since its usage values come from the
 // elements that its items refer to; false without writing anything when that index cannot be
