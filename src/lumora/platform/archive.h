@@ -42,7 +42,7 @@ class Archive {
   // Reads exactly n bytes or throws kEndOfFile. Inline for the common case of a small field
   // already buffered: loading calls it once per stored field.
   void Read(void* buffer, size_t n) {
-    if (n <= kSmallField && n <= end_ - begin_) {
+    if (n != 0 && n <= kSmallField && n <= end_ - begin_) {
       std::memcpy(buffer, buffer_ + begin_, n);
       begin_ += n;
       return;
@@ -50,7 +50,7 @@ class Archive {
     ReadSlow(buffer, n);
   }
   void Write(const void* buffer, size_t n) {
-    if (n <= kSmallField && n < kBufferSize - end_) {
+    if (n != 0 && n <= kSmallField && n < kBufferSize - end_) {
       std::memcpy(buffer_ + end_, buffer, n);
       end_ += n;
       return;
