@@ -1,6 +1,7 @@
-// Opening a content root and reading its type-40 resources, each against reading the same
-// files byte for byte. The content is the sample written at LUMORA_BENCH_SCALE (default 600,
-// over 20,000 resources in three disciplines) into a temporary folder removed at exit.
+// Opening a content root, reading its type-40 resources and rebuilding its index files, each
+// against reading the same files byte for byte. The content is the sample written at
+// LUMORA_BENCH_SCALE (default 600, over 20,000 resources in three disciplines) into a temporary
+// folder removed at exit.
 #include <lumora/lumora.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
@@ -57,14 +58,14 @@ class SampleRoot {
   const std::string& root() const { return root_; }
   const std::vector<std::string>& indexFiles() const { return indexFiles_; }
   const std::vector<Resource>& resources() const { return resources_; }
-
- private:
+  const std::vector<std::string>& resourceFiles() const { return resourceFiles_; }
   std::string DisciplineRoot(uint32_t d) const {
     char folder[16];
     std::snprintf(folder, sizeof folder, "D%03u/", d);
     return root_ + folder;
   }
 
+ private:
   // The index files an open reads, and every type-40 resource with the files it touches.
   void Collect(uint32_t d) {
     const std::string local = DisciplineRoot(d);
@@ -78,10 +79,22 @@ class SampleRoot {
       if (name.size() != 5 || name[0] != 'C') continue;
       const fs::path folder = course.path() / lumora::NumberedName('r', 40);
       if (!fs::is_directory(folder)) continue;
+      CollectFiles(course.path());
       for (const auto& file : fs::directory_iterator(folder)) {
         if (file.path().extension() != ".ars") continue;
         const uint32_t number = std::stoul(file.path().stem().string().substr(1));
         AddResource(d, local, lumora::MakeResourceId(std::stoul(name.substr(1)), number));
+      }
+    }
+  }
+
+  // Every resource file of every type in a course folder: what the index rebuilds read.
+  void CollectFiles(const fs::path& course) {
+    for (uint32_t type : lumora::kExerciseTypes) {
+      const fs::path folder = course / lumora::NumberedName('r', type);
+      std::error_code error;
+      for (const auto& file : fs::directory_iterator(folder, error)) {
+        if (file.path().extension() == ".ars") resourceFiles_.push_back(file.path().string());
       }
     }
   }
@@ -106,6 +119,7 @@ class SampleRoot {
   std::string root_;
   std::vector<std::string> indexFiles_;
   std::vector<Resource> resources_;
+  std::vector<std::string> resourceFiles_;
 };
 
 const SampleRoot& Sample() {
@@ -182,6 +196,31 @@ void GetResourceWithMedia(benchmark::State& state) {
   state.counters["resources"] = static_cast<double>(Sample().resources().size());
 }
 
+void RebuildReference(benchmark::State& state) {
+  if (!Ready(state)) return;
+  for (auto _ : state) {
+    size_t total = 0;
+    for (const std::string& path : Sample().resourceFiles()) total += ReadWhole(path);
+    benchmark::DoNotOptimize(total);
+  }
+  state.SetItemsProcessed(state.iterations() * Sample().resourceFiles().size());
+}
+
+// Every type's index rebuilt into a scratch folder, as an export does after copying.
+void RebuildEveryType(benchmark::State& state) {
+  if (!Ready(state)) return;
+  const std::string out = Sample().root() + "rebuilt/";
+  fs::create_directories(out);
+  for (auto _ : state) {
+    for (uint32_t d : kDisciplines) {
+      for (uint32_t type : lumora::kExerciseTypes) {
+        lumora::BuildTypeIndex(type, Sample().DisciplineRoot(d), out);
+      }
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * Sample().resourceFiles().size());
+}
+
 BENCHMARK(OpenReference)->Name("Open/reference_read_index_files")->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenAndClose)->Name("Open/lmOpen_lmClose")->Unit(benchmark::kMillisecond);
 BENCHMARK(GetResourceReference)
@@ -189,6 +228,11 @@ BENCHMARK(GetResourceReference)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(GetResourceWithMedia)
     ->Name("GetResource/lmGetResource_url_media")
+    ->Unit(benchmark::kMillisecond);
+
+BENCHMARK(RebuildReference)->Name("Rebuild/reference_read_files")->Unit(benchmark::kMillisecond);
+BENCHMARK(RebuildEveryType)
+    ->Name("Rebuild/BuildTypeIndex_every_type")
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace
