@@ -77,12 +77,12 @@ class TypedArray : public Object {
   uint32_t capacity() const { return capacity_; }
   uint32_t grow_by() const { return grow_by_; }
   bool empty() const { return size_ == 0; }
-  T* data() { return data_.get(); }
-  const T* data() const { return data_.get(); }
+  T* data() { return data_; }
+  const T* data() const { return data_; }
   T& operator[](uint32_t i) { return data_[i]; }
   const T& operator[](uint32_t i) const { return data_[i]; }
-  const T* begin() const { return data_.get(); }
-  const T* end() const { return data_.get() + size_; }
+  const T* begin() const { return data_; }
+  const T* end() const { return data_ + size_; }
 
   void set_grow_by(uint32_t grow_by) { grow_by_ = grow_by; }
 
@@ -91,13 +91,14 @@ class TypedArray : public Object {
   // elements are zero.
   void SetSize(uint32_t new_size) {
     if (new_size == 0) {
-      data_.reset();
+      heap_.reset();
+      data_ = nullptr;
       size_ = capacity_ = 0;
     } else if (!data_) {
-      data_ = std::make_unique<T[]>(new_size);
+      data_ = ZeroedStorage(new_size);
       size_ = capacity_ = new_size;
     } else if (new_size <= capacity_) {
-      std::fill(data_.get() + std::min(size_, new_size), data_.get() + new_size, T{});
+      std::fill(data_ + std::min(size_, new_size), data_ + new_size, T{});
       size_ = new_size;
     } else {
       Reallocate(new_size);
@@ -112,7 +113,7 @@ class TypedArray : public Object {
 
   void RemoveAt(uint32_t index) {
     if (index >= size_) return;
-    std::copy(data_.get() + index + 1, data_.get() + size_, data_.get() + index);
+    std::copy(data_ + index + 1, data_ + size_, data_ + index);
     --size_;
   }
 
@@ -152,9 +153,15 @@ class TypedArray : public Object {
     uint64_t stepped = uint64_t{capacity_} + grow;
     uint32_t new_capacity = static_cast<uint32_t>(
         std::min<uint64_t>(std::max<uint64_t>(new_size, stepped), UINT32_MAX));
-    auto fresh = std::make_unique<T[]>(new_capacity);
-    std::copy(data_.get(), data_.get() + size_, fresh.get());
-    data_ = std::move(fresh);
+    if (new_capacity <= kInlineCount) {
+      // Still fits the inline storage, which already holds the elements.
+      std::fill(data_ + size_, data_ + new_capacity, T{});
+    } else {
+      auto fresh = std::make_unique<T[]>(new_capacity);
+      std::copy(data_, data_ + size_, fresh.get());
+      heap_ = std::move(fresh);
+      data_ = heap_.get();
+    }
     capacity_ = new_capacity;
     size_ = new_size;
   }
@@ -163,10 +170,27 @@ class TypedArray : public Object {
     SetSize(0);
     if (other.size_ == 0) return;
     SetSize(other.size_);
-    std::copy(other.begin(), other.end(), data_.get());
+    std::copy(other.begin(), other.end(), data_);
   }
 
-  std::unique_ptr<T[]> data_;
+  // Arrays of up to eight bytes live inside the object: most arrays of small values hold a few
+  // entries, and a discipline's indexes hold tens of thousands of them.
+  static constexpr uint32_t kInlineCount = sizeof(T) <= 8 ? 8 / sizeof(T) : 0;
+
+  // Room for `capacity` zeroed elements: the inline storage when it is large enough.
+  T* ZeroedStorage(uint32_t capacity) {
+    if (capacity <= kInlineCount) {
+      heap_.reset();
+      std::fill(inline_.begin(), inline_.begin() + capacity, T{});
+      return inline_.data();
+    }
+    heap_ = std::make_unique<T[]>(capacity);
+    return heap_.get();
+  }
+
+  std::unique_ptr<T[]> heap_;
+  std::array<T, kInlineCount> inline_{};
+  T* data_ = nullptr;
   uint32_t size_ = 0;
   uint32_t capacity_ = 0;
   uint32_t grow_by_ = 0;
