@@ -4,6 +4,10 @@
 //
 // Stored form: u32 count, u8 sorted flag, and when count > 0 the keys (DWordArray) followed by
 // every element's own stored form in key-array order.
+//
+// A table read from its stored form builds its elements in one block rather than one heap
+// object each: index files hold tens of thousands of small entries and opening a content root
+// reads them all.
 #pragma once
 
 #include <lumora/platform/archive.h>
@@ -14,6 +18,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -25,6 +30,18 @@ class KeyedTable : public Object {
   static constexpr uint32_t kGrowBy = 20;
 
   KeyedTable() { keys_.set_grow_by(kGrowBy); }
+  KeyedTable(KeyedTable&&) = default;
+  KeyedTable& operator=(KeyedTable&& other) {
+    if (this != &other) {
+      Clear();
+      keys_ = std::move(other.keys_);
+      pool_ = std::move(other.pool_);
+      objects_ = std::move(other.objects_);
+      sorted_ = other.sorted_;
+    }
+    return *this;
+  }
+  ~KeyedTable() override { Clear(); }
 
   uint32_t size() const { return static_cast<uint32_t>(objects_.size()); }
   bool sorted() const { return sorted_; }
@@ -46,7 +63,7 @@ class KeyedTable : public Object {
 
   void Add(uint32_t key, std::unique_ptr<T> object) {
     keys_.Add(key);
-    objects_.push_back(std::move(object));
+    objects_.push_back(Owned(object.release(), OwnedDeleter{false}));
     sorted_ = false;
   }
 
@@ -62,6 +79,7 @@ class KeyedTable : public Object {
   void Clear() {
     for (auto& object : objects_) object.reset();
     objects_.clear();
+    pool_.reset();
     keys_.RemoveAll();
     sorted_ = true;
   }
@@ -93,17 +111,35 @@ class KeyedTable : public Object {
     if (keys_.size() != count) {
       throw ArchiveError(ArchiveError::Kind::kBadFormat, "key count differs from entry count");
     }
-    objects_.reserve(count);  // the keys were read, so the file holds at least count entries
+    // The keys were read, so the file holds at least count entries.
+    pool_.reset(static_cast<T*>(::operator new (sizeof(T) * count, std::align_val_t{alignof(T)})));
+    objects_.reserve(count);
     for (uint32_t i = 0; i < count; ++i) {
-      auto object = std::make_unique<T>();
-      object->Serialize(ar);
-      objects_.push_back(std::move(object));
+      objects_.push_back(Owned(::new (pool_.get() + i) T(), OwnedDeleter{true}));
+      objects_.back()->Serialize(ar);
     }
   }
 
  private:
+  // Elements of the load block are only destroyed; their memory goes with the block.
+  struct OwnedDeleter {
+    bool pooled = false;
+    void operator()(T* object) const {
+      if (pooled) {
+        std::destroy_at(object);
+      } else {
+        delete object;
+      }
+    }
+  };
+  struct PoolDeleter {
+    void operator()(T* block) const { ::operator delete (block, std::align_val_t{alignof(T)}); }
+  };
+  using Owned = std::unique_ptr<T, OwnedDeleter>;
+
   DWordArray keys_;
-  std::vector<std::unique_ptr<T>> objects_;
+  std::unique_ptr<T, PoolDeleter> pool_;  // declared before objects_: outlives its elements
+  std::vector<Owned> objects_;
   bool sorted_ = false;
 };
 

@@ -2,14 +2,44 @@
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <vector>
+
 namespace lumora {
+namespace {
+
+// The names in `folder`, sorted; none when it cannot be listed. One listing costs less than
+// trying to open the index files of the many types a discipline has no resources of.
+std::optional<std::vector<std::string>> FolderNames(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code ec;
+  for (std::filesystem::directory_iterator it(folder, ec), end; it != end; it.increment(ec)) {
+    if (ec) break;
+    names.push_back(it->path().filename().string());
+  }
+  if (ec) return std::nullopt;
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace
 
 std::string IndexFilePath(const std::string& dataFolder, uint32_t type) {
   return dataFolder + NumberedName('r', type) + ".ari";
 }
 
 ResourceIndex::ResourceIndex(const std::string& dataFolder) {
+  const std::optional<std::vector<std::string>> names = FolderNames(dataFolder);
+  if (names && names->empty()) return;
   for (uint32_t type : kIndexLoadOrder) {
+    // A folder that cannot be listed may still let its files be read: then every file is tried.
+    if (names &&
+        !std::binary_search(names->begin(), names->end(), NumberedName('r', type) + ".ari")) {
+      continue;
+    }
     std::unique_ptr<TypeIndex> index = NewTypeIndex(type);
     if (!index || !index->Load(IndexFilePath(dataFolder, type))) continue;
     types_.Add(type);
