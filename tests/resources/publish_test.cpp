@@ -166,13 +166,24 @@ TEST_F(PublishTest, ResourcesFollowTheSectionLocalAndIndexesTheCommonLocal) {
   const std::string shared = root() + "shared/";
   const std::string elsewhere = root() + "elsewhere/";
   WriteIni("[Common]\nLocal=" + root() + "shared\n[001]\nDiscipline=7\n[002]\nDiscipline=8\n" +
-           "Local=" + root() + "elsewhere\n");
+           "Local=" + root() + "elsewhere/\n");
   WriteDiscipline(d7(), shared, 7);
   WriteDiscipline(elsewhere, shared, 8);
 
   PublishResources(40, root(), true);
   EXPECT_TRUE(FileExists(Derived(d7(), 123, "arh")));
   EXPECT_TRUE(FileExists(Derived(elsewhere, 123, "arh")));
+}
+
+TEST_F(PublishTest, SectionLocalIsTakenAsWritten) {
+  // Without its closing separator the folder name runs into the course folder's name, so the
+  // resource files are not found and nothing is written.
+  const std::string elsewhere = root() + "elsewhere/";
+  WriteIni("[001]\nDiscipline=8\nLocal=" + root() + "elsewhere\n");
+  WriteDiscipline(elsewhere, root(), 8);
+
+  PublishResources(40, root(), true);
+  EXPECT_FALSE(FileExists(Derived(elsewhere, 123, "arh")));
 }
 
 TEST_F(PublishTest, StopsAtTheFirstMissingSectionOrIndex) {

@@ -50,12 +50,13 @@ void PublishResource(const PublishingClass& publishing, const std::string& path,
 }
 
 // Publishes the resources of the current section's discipline. Its resources lie below its own
-// Local root, its index below the common one. False when the index cannot be read.
+// Local root, taken as written in the section (no separator is added, unlike when a content
+// root is opened), its index below the common one. False when the index cannot be read.
 bool PublishDiscipline(const PublishingClass& publishing, ProfileFile& ini, const std::string& root,
                        const std::string& common_local, bool clear_paths) {
   const uint32_t id = ReadDisciplineId(ini);
   const std::string folder = DisciplineFolder(id);
-  const std::string local_root = ValueOr(ReadFolder(ini, "Local"), root + folder);
+  const std::string local_root = ValueOr(ini.GetString("Local"), root + folder);
   DWordArray numbers;
   if (!ReadResourceNumbers(publishing.type, common_local + folder, numbers)) return false;
   const ContentRequest request = PublishingRequest(id);
