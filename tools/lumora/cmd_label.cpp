@@ -1,0 +1,55 @@
+// `lumora label CODE [--json]`: what a context code names, in the library's two labels and its
+// diagnostic description. The code is taken as a context that is not a glossary word.
+#include <lumora/resources/context_description.h>
+#include <lumora/resources/context_labels.h>
+#include <lumora/resources/text_context.h>
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "commands.h"
+#include "content_args.h"
+
+namespace lumora::cli {
+namespace {
+
+// The library's labels are Windows-1252 text.
+std::string FromWestern(const std::string& narrow) { return Utf8(WideText(narrow, 1252)); }
+
+void Run(const std::string& code_text, bool json) {
+  const TextContext context(ParseNumber(code_text, "context code"), -1);
+  const std::string technical = FromWestern(TechnicalLabel(context.code));
+  const std::string readable = FromWestern(ReadableLabel(context));
+  const std::string description = FromWestern(DescribeContext(&context));
+  if (json) {
+    const nlohmann::ordered_json out = {{"code", context.code.value},
+                                        {"technical", technical},
+                                        {"readable", readable},
+                                        {"description", description},
+                                        {"valid", context.IsValid()}};
+    std::cout << out.dump(2) << '\n';
+  } else {
+    std::cout << "technical:   " << technical << '\n'
+              << "readable:    " << readable << '\n'
+              << "valid:       " << (context.IsValid() ? "yes" : "no") << '\n'
+              << "description:\n"
+              << description << '\n';
+  }
+}
+
+void AddLabelCommand(CLI::App& app) {
+  auto code = std::make_shared<std::string>();
+  auto json = std::make_shared<bool>(false);
+  auto* command = app.add_subcommand("label", "Show the labels of a context code");
+  command->add_option("CODE", *code, "Context code, decimal or 0x-hexadecimal")->required();
+  command->add_flag("--json", *json, "Print JSON instead of text");
+  command->callback([code, json] { Run(*code, *json); });
+}
+
+const CommandRegistration reg{"label", &AddLabelCommand};
+
+}  // namespace
+}  // namespace lumora::cli
