@@ -33,12 +33,6 @@ MediaRef WithUrlPath(const MediaRef& media, const ContentRequest& request) {
   return resolved;
 }
 
-nlohmann::ordered_json NumbersJson(const DWordArray& numbers) {
-  nlohmann::ordered_json out = nlohmann::ordered_json::array();
-  for (uint32_t n : numbers) out.push_back(n);
-  return out;
-}
-
 void AddGroups(const ResourceGroups& groups, nlohmann::ordered_json& out) {
   out["sorted"] = groups.sorted();
   nlohmann::ordered_json list = nlohmann::ordered_json::array();

@@ -46,7 +46,9 @@ void Run(const Options& options) {
                              {"course", CourseOf(resource_id)},
                              {"number", NumberOf(resource_id)}};
   ResourceJsonWriter writer;
-  if (ok) writer.Fields(*resource, out);
+  if (ok && !writer.Fields(*resource, out)) {
+    throw CommandFailure("no JSON form for resources of type " + std::to_string(options.type));
+  }
   out["media"] = writer.media();
 
   if (options.json) {

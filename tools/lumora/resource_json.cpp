@@ -1,54 +1,14 @@
 #include "resource_json.h"
 
-#include <lumora/resources/types/type40.h>
-
 #include <cstdio>
 #include <initializer_list>
 #include <string>
 
 #include "content_args.h"
+#include "resource_json_types.h"
 
 namespace lumora::cli {
 namespace {
-
-nlohmann::ordered_json ItemJson(ResourceJsonWriter& writer, const ExerciseItem& item);
-
-nlohmann::ordered_json PartsJson(ResourceJsonWriter& writer, const ObjectList<ItemPart>& parts) {
-  nlohmann::ordered_json out = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < parts.size(); ++i) {
-    const ItemPart& part = parts[i];
-    nlohmann::ordered_json elements = nlohmann::ordered_json::array();
-    for (uint32_t e = 0; e < part.elements.size(); ++e) {
-      elements.push_back(writer.Element(part.elements[e]));
-    }
-    out.push_back({{"value", part.value},
-                   {"flag", part.flag},
-                   {"elements", elements},
-                   {"content", writer.Element(part.content)}});
-  }
-  return out;
-}
-
-nlohmann::ordered_json ItemJson(ResourceJsonWriter& writer, const ExerciseItem& item) {
-  nlohmann::ordered_json out{{"content", writer.Element(item.content)}};
-  out["firstParts"] = PartsJson(writer, item.firstParts);
-  out["secondParts"] = PartsJson(writer, item.secondParts);
-  nlohmann::ordered_json media = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < item.media.size(); ++i) media.push_back(writer.Media(item.media[i]));
-  out["media"] = media;
-  out["records"] = RecordsJson(item.records);
-  return out;
-}
-
-void Type40Fields(ResourceJsonWriter& writer, const Type40Resource& resource,
-                  nlohmann::ordered_json& out) {
-  out["groupKey"] = resource.groupKey;
-  nlohmann::ordered_json items = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < resource.items.size(); ++i) {
-    items.push_back(ItemJson(writer, resource.items[i]));
-  }
-  out["items"] = items;
-}
 
 bool Has(const nlohmann::ordered_json& value, std::initializer_list<const char*> keys) {
   if (!value.is_object()) return false;
@@ -113,15 +73,9 @@ nlohmann::ordered_json BytesJson(const ByteArray& bytes) {
 }
 
 bool ResourceJsonWriter::Fields(const ExerciseResource& resource, nlohmann::ordered_json& out) {
-  if (const auto* element = dynamic_cast<const ContentElement*>(&resource)) {
-    out.update(Element(*element));
-    return true;
-  }
-  if (const auto* type40 = dynamic_cast<const Type40Resource*>(&resource)) {
-    Type40Fields(*this, *type40, out);
-    return true;
-  }
-  return false;
+  out["records"] = RecordsJson(resource.records);
+  return ElementTypeFields(*this, resource, out) || TextTypeFields(*this, resource, out) ||
+         MediaTypeFields(*this, resource, out) || VideoTypeFields(*this, resource, out);
 }
 
 nlohmann::ordered_json ResourceJsonWriter::Element(const ContentElement& element) {
@@ -132,12 +86,26 @@ nlohmann::ordered_json ResourceJsonWriter::Element(const ContentElement& element
   if (element.isReference) return out;
   out["text"] = Text(element.text);
   out["translations"] = Texts(element.translations);
-  out["note"] = element.note;
+  out["note"] = Utf8From1252(element.note);
   out["media"] = Media(element.media);
   out["firstAttributes"] = BytesJson(element.firstAttributes);
   out["secondAttributes"] = BytesJson(element.secondAttributes);
   return out;
 }
+
+nlohmann::ordered_json NumbersJson(const DWordArray& numbers) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (uint32_t n : numbers) out.push_back(n);
+  return out;
+}
+
+nlohmann::ordered_json StringsJson(const StringArray& strings) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (const std::string& text : strings.items) out.push_back(Utf8From1252(text));
+  return out;
+}
+
+std::string Utf8From1252(const std::string& text) { return Utf8(WideText(text, 1252)); }
 
 nlohmann::ordered_json ResourceJsonWriter::Media(const MediaRef& media) {
   nlohmann::ordered_json out = MediaJson(media);
@@ -160,6 +128,14 @@ nlohmann::ordered_json ResourceJsonWriter::Texts(const LanguageTexts& texts) con
         {{"language", texts.KeyAt(i)}, {"codePage", text.codePage}, {"text", Utf8(text.text)}});
   }
   return out;
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Text(const CodePageText& text) const {
+  return {{"codePage", text.codePage}, {"text", Utf8(text.text)}};
+}
+
+nlohmann::ordered_json ResourceJsonWriter::Texts(const TextList& texts) const {
+  return ListJson(texts, [this](const MarkedText& text) { return Text(text); });
 }
 
 }  // namespace lumora::cli

@@ -2,12 +2,16 @@
 // resource is written out is also collected, in the order met, for the answer's "media" list.
 #pragma once
 
+#include <lumora/platform/archive_string.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/language_texts.h>
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/media_ref.h>
+#include <lumora/resources/object_list.h>
+#include <lumora/resources/text_list.h>
 #include <lumora/resources/types/type1005.h>
+#include <lumora/support/wide_text.h>
 
 #include <nlohmann/json.hpp>
 
@@ -18,7 +22,7 @@ namespace lumora::cli {
 
 class ResourceJsonWriter {
  public:
-  // The type's own fields (no head): false for a class this tool cannot decode yet.
+  // The type's own fields (no head): false for an object of no known exercise type.
   bool Fields(const ExerciseResource& resource, nlohmann::ordered_json& out);
   const nlohmann::ordered_json& media() const { return media_; }
 
@@ -26,6 +30,8 @@ class ResourceJsonWriter {
   nlohmann::ordered_json Media(const MediaRef& media);
   nlohmann::ordered_json Text(const MarkedText& text) const;
   nlohmann::ordered_json Texts(const LanguageTexts& texts) const;
+  nlohmann::ordered_json Texts(const TextList& texts) const;
+  nlohmann::ordered_json Text(const CodePageText& text) const;
 
  private:
   nlohmann::ordered_json media_ = nlohmann::ordered_json::array();
@@ -48,6 +54,18 @@ nlohmann::ordered_json RecordsJson(const TypedArray<RawRecord<N>>& records) {
 }
 
 nlohmann::ordered_json BytesJson(const ByteArray& bytes);
+nlohmann::ordered_json NumbersJson(const DWordArray& numbers);
+// Narrow strings are Windows-1252 text; JSON wants UTF-8.
+nlohmann::ordered_json StringsJson(const StringArray& strings);
+std::string Utf8From1252(const std::string& text);
+
+// One JSON value per object of `list`, made by `each`.
+template <typename T, typename Each>
+nlohmann::ordered_json ListJson(const ObjectList<T>& list, Each each) {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (uint32_t i = 0; i < list.size(); ++i) out.push_back(each(list[i]));
+  return out;
+}
 
 // The form for people of a JSON answer built here: texts, translations and media on one line
 // each, media without a kind and empty or default values left out.

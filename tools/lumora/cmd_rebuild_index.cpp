@@ -1,0 +1,103 @@
+// `lumora rebuild-index ROOT -d ID [--type T] [--out DIR | --in-place] [--json]`: rescans a
+// discipline's resource files and writes its index files anew. Overwriting the discipline's own
+// index files takes --in-place, so that a trial run never replaces them by accident.
+#include <lumora/frame/library_state.h>
+#include <lumora/resources/resource_index.h>
+#include <lumora/resources/type_catalog.h>
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <optional>
+
+#include "commands.h"
+#include "content_args.h"
+#include "index_numbers.h"
+
+namespace lumora::cli {
+namespace {
+
+struct Options {
+  std::string root;
+  uint32_t discipline = 0;
+  std::optional<uint32_t> type;
+  std::string out;
+  bool inPlace = false;
+  bool json = false;
+};
+
+std::string IndexFolder(const Options& options, const Discipline& discipline) {
+  if (options.out.empty()) return discipline.dataFolder;
+  std::string folder = options.out;
+  if (folder.back() != '/') folder.push_back('/');
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) throw CommandFailure("cannot create " + folder + ": " + error.message());
+  return folder;
+}
+
+nlohmann::ordered_json Rebuild(uint32_t type, const std::string& local_root,
+                               const std::string& folder) {
+  nlohmann::ordered_json out{{"type", type}, {"ok", BuildTypeIndex(type, local_root, folder)}};
+  std::unique_ptr<TypeIndex> index = NewTypeIndex(type);
+  const auto indexed = index->Load(IndexFilePath(folder, type)) ? NumbersOf(*index) : std::nullopt;
+  out["groups"] = indexed ? indexed->groups : 0;
+  out["entries"] = indexed ? indexed->numbers.size() : 0;
+  return out;
+}
+
+void Run(const Options& options) {
+  if (options.type && !IsExerciseType(*options.type)) {
+    throw CommandFailure("not an exercise type: " + std::to_string(*options.type));
+  }
+  OpenedContent content(options.root, 0);
+  RequestFor(options.discipline);
+  const Discipline& discipline = *FindDiscipline(options.discipline);
+  const std::string folder = IndexFolder(options, discipline);
+
+  nlohmann::ordered_json results = nlohmann::ordered_json::array();
+  bool all_ok = true;
+  for (uint32_t type : kExerciseTypes) {
+    if (options.type && *options.type != type) continue;
+    results.push_back(Rebuild(type, discipline.localRoot, folder));
+    all_ok = all_ok && results.back()["ok"] == true;
+  }
+  if (options.json) {
+    std::cout << results.dump(2) << '\n';
+  } else {
+    for (const auto& r : results) {
+      std::printf("type %u: %s, %u groups, %zu entries\n", r["type"].get<uint32_t>(),
+                  r["ok"] == true ? "rebuilt" : "failed", r["groups"].get<uint32_t>(),
+                  r["entries"].get<size_t>());
+    }
+  }
+  if (!all_ok) throw CommandFailure("some index files could not be rebuilt in " + folder);
+}
+
+void AddRebuildIndexCommand(CLI::App& app) {
+  auto options = std::make_shared<Options>();
+  auto* command =
+      app.add_subcommand("rebuild-index", "Rescan a discipline's resources and rewrite its index");
+  command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
+      ->required();
+  command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
+  command->add_option("--type", options->type, "Rebuild only this exercise type");
+  auto* out = command->add_option("--out", options->out, "Write the index files into DIR");
+  command->add_flag("--in-place", options->inPlace, "Overwrite the discipline's own index files")
+      ->excludes(out);
+  command->add_flag("--json", options->json, "Print JSON instead of text");
+  command->callback([options] {
+    if (options->out.empty() && !options->inPlace) {
+      throw CLI::ValidationError("rebuild-index", "give --out DIR, or --in-place to overwrite");
+    }
+    Run(*options);
+  });
+}
+
+const CommandRegistration reg{"rebuild-index", &AddRebuildIndexCommand};
+
+}  // namespace
+}  // namespace lumora::cli
