@@ -1,11 +1,10 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/support/folder_entries.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <vector>
 
 namespace lumora {
@@ -14,14 +13,11 @@ namespace {
 // The names in `folder`, sorted; none when it cannot be listed. One listing costs less than
 // trying to open the index files of the many types a discipline has no resources of.
 std::optional<std::vector<std::string>> FolderNames(const std::string& folder) {
+  const auto entries = ListFolder(folder);
+  if (!entries) return std::nullopt;
   std::vector<std::string> names;
-  std::error_code ec;
-  for (std::filesystem::directory_iterator it(folder, ec), end; it != end; it.increment(ec)) {
-    if (ec) break;
-    names.push_back(it->path().filename().string());
-  }
-  if (ec) return std::nullopt;
-  std::sort(names.begin(), names.end());
+  names.reserve(entries->size());
+  for (const FolderEntry& entry : *entries) names.push_back(entry.name);
   return names;
 }
 
