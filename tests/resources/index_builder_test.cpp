@@ -103,6 +103,19 @@ TEST_F(IndexBuilder, FailuresKeepLaterFlagsAtOneAndStillWriteTheIndex) {
   EXPECT_EQ(index.usageKeys.size(), 2u);      // the unreadable file is left out
 }
 
+TEST_F(IndexBuilder, ElementNumberInTwoCoursesTakesTheFlagsOfTheFirstScanned) {
+  // Number 1 in course 3 has only flag B; course 1 is scanned first and has only flag A.
+  testing::WriteResource(root(), 0x00300001, *testing::FullElement(u"c", 0, u"Salut"));
+  Type40Resource resource;
+  testing::AddItem(resource, {kAOnly});
+  Write40(0x00100001, resource);
+
+  ASSERT_TRUE(BuildTypeIndex(40, root(), index_folder()));
+  Type40Index index;
+  ASSERT_TRUE(index.Load(IndexFilePath(index_folder(), 40)));
+  EXPECT_EQ(UsageOf(index, 1) & 0xFFFF, 0x0001u);
+}
+
 TEST_F(IndexBuilder, SameNumberInTwoCoursesIsListedTwiceUnsorted) {
   Type40Resource first;
   first.groupKey = 5;
