@@ -61,6 +61,10 @@ bool File::Open(const std::string& path, uint32_t flags) {
   }
   fd_ = fd;
   error_ = 0;
+  position_ = 0;
+  regular_ = S_ISREG(st.st_mode);
+  writable_ = Writes(flags) || (flags & kCreate) != 0;
+  openedSize_ = static_cast<uint64_t>(st.st_size);
   return true;
 }
 
@@ -81,7 +85,9 @@ size_t File::Read(void* buffer, size_t n) {
     if (got < 0) error_ = errno;
     if (got <= 0) break;
     done += static_cast<size_t>(got);
+    if (regular_ && done < n) break;
   }
+  position_ += done;
   return done;
 }
 
@@ -97,25 +103,28 @@ bool File::Write(const void* buffer, size_t n) {
       return false;
     }
     done += static_cast<size_t>(put);
+    position_ += static_cast<size_t>(put);
   }
   return true;
 }
 
-bool File::SeekToEnd() { return fd_ >= 0 && ::lseek(fd_, 0, SEEK_END) >= 0; }
+bool File::SeekToEnd() { return SeekResult(::lseek(fd_, 0, SEEK_END)); }
 
 bool File::SeekTo(uint64_t offset) {
-  return fd_ >= 0 && ::lseek(fd_, static_cast<off_t>(offset), SEEK_SET) >= 0;
+  return SeekResult(::lseek(fd_, static_cast<off_t>(offset), SEEK_SET));
 }
 
-uint64_t File::Position() const {
-  if (fd_ < 0) return 0;
-  off_t pos = ::lseek(fd_, 0, SEEK_CUR);
-  return pos < 0 ? 0 : static_cast<uint64_t>(pos);
+bool File::SeekResult(int64_t offset) {
+  if (fd_ < 0 || offset < 0) return false;
+  position_ = static_cast<uint64_t>(offset);
+  return true;
 }
 
 uint64_t File::Size() const {
+  if (fd_ < 0) return 0;
+  if (!writable_) return openedSize_;
   struct stat st;
-  if (fd_ < 0 || ::fstat(fd_, &st) != 0) return 0;
+  if (::fstat(fd_, &st) != 0) return 0;
   return static_cast<uint64_t>(st.st_size);
 }
 

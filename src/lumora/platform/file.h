@@ -47,14 +47,22 @@ class File {
   bool Write(const void* buffer, size_t n);
   bool SeekToEnd();
   bool SeekTo(uint64_t offset);
-  uint64_t Position() const;
+  // Kept by the object itself (nothing else moves the descriptor), so asking costs no call.
+  uint64_t Position() const { return fd_ >= 0 ? position_ : 0; }
+  // A file opened for reading only answers the size it had when opened.
   uint64_t Size() const;
 
   int LastError() const { return error_; }
 
  private:
+  bool SeekResult(int64_t offset);  // records the offset lseek answered, when it succeeded
+
   int fd_ = -1;
   int error_ = 0;
+  uint64_t position_ = 0;
+  bool regular_ = false;
+  bool writable_ = false;
+  uint64_t openedSize_ = 0;  // a short read of a regular file means its end: no read to confirm
 };
 
 }  // namespace lumora
