@@ -103,6 +103,35 @@ TEST(KeyedTable, ClearDestroysInTableOrder) {
   EXPECT_EQ(log, (std::vector<int>{3, 1, 2}));
 }
 
+TEST(KeyedTable, LoadedEntriesMixWithAddedOnesAndMoveWithTheTable) {
+  KeyedTable<Value> loaded;
+  ASSERT_TRUE(testing::LoadObject(StoredTable(0, {4, 8, 6}), loaded));
+  loaded.RemoveKey(8);
+  auto added = std::make_unique<Value>();
+  added->v = 5;
+  loaded.Add(2, std::move(added));
+
+  KeyedTable<Value> moved;
+  ASSERT_TRUE(testing::LoadObject(StoredTable(0, {1}), moved));
+  moved = std::move(loaded);
+  ASSERT_EQ(moved.size(), 3u);
+  EXPECT_EQ(moved.Find(4)->v, 40u);
+  EXPECT_EQ(moved.Find(6)->v, 60u);
+  EXPECT_EQ(moved.Find(2)->v, 5u);
+  EXPECT_EQ(moved.Find(8), nullptr);
+  EXPECT_EQ(testing::StoreObject(moved), Concat({U32(3),
+                                                 {0},
+                                                 U32(4),
+                                                 U32(3),
+                                                 U32(20),
+                                                 U32(4),
+                                                 U32(6),
+                                                 U32(2),
+                                                 U32(40),
+                                                 U32(60),
+                                                 U32(5)}));
+}
+
 TEST(KeyedTable, StoreWritesCountFlagKeysThenElements) {
   KeyedTable<Value> table;
   for (uint32_t k : {3u, 1u}) {
