@@ -16,7 +16,7 @@ step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
 step "Every configured discipline (9 has Type 1: listed, never opened)" 'lumora disciplines $dir'
-step "What opening registers for discipline 1" 'lumora open $dir --filter 1'
+step "What opening registers for discipline 1 (it holds every exercise type)" 'lumora open $dir --filter 1'
 step "Discipline 1's type-40 index: resource numbers by group key" 'lumora index $dir -d 1 --type 40'
 step "Its descriptions (type 2000)" 'lumora index $dir -d 1 --type 2000 | head -16'
 step "A type-40 resource (its .arh twin wins), references expanded, media as web paths" \
@@ -26,14 +26,16 @@ step "The same resource's media as network paths, Q3 tried first" \
 step "One medium" 'lumora media $dir -d 1 --kind 2 --folder 1005 --resource 0x100001 --path-kind url'
 step "Discipline 1 also holds every other exercise type: a video (type 1003) and its script" \
   'lumora resource $dir -d 1 --type 1003 --id 0x100001 | head -24'
-step "Video Questions (type 8): each question links to a paragraph of that video" \
+step "Video Questions (type 8): its head links to video 1, one question per paragraph of it" \
   'lumora resource $dir -d 1 --type 8 --id 0x100001 | head -24'
 step "A dictation (type 5): sentences with the URLs of their sounds" \
   'lumora resource $dir -d 1 --type 5 --id 0x100001 | head -24'
 step "PatchWork (type 20): pictures with their words" \
   'lumora resource $dir -d 1 --type 20 --id 0x100002 | head -20'
-step "The index of a type with a usage table (type 5): groups, then a value per resource" \
+step "The index of type 5, one of the types whose index also keeps a usage value per resource" \
   'lumora index $dir -d 1 --type 5'
+step "Its file: the groups, then the usage table (numbers 1 and 2, each 0x0100: both have sentences)" \
+  'od -An -tx1 $dir/D001/r0000005.ari'
 step "Verify discipline 1's media and links: three problems are planted on purpose (type 8 #3 asks about paragraph 9 of a three-paragraph video, type 19 #3 has a position without its word, type 1006 #3 names a picture never delivered)" \
   'lumora verify $dir -d 1 || true'
 step "Rebuild the type-7 index from its resource files into a scratch folder" \
