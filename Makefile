@@ -53,4 +53,4 @@ format-check:
 	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(DEMO_DIR)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt

@@ -11,12 +11,12 @@ step() {
   eval "${2//lumora /\"\$lumora\" }"
 }
 
-rm -rf "$dir"
+rm -rf "$dir" "$dir-rebuilt"
 step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
 step "Every configured discipline (9 has Type 1: listed, never opened)" 'lumora disciplines $dir'
-step "What opening registers for discipline 1" 'lumora open $dir --filter 1'
+step "What opening registers for discipline 1 (it holds every exercise type)" 'lumora open $dir --filter 1'
 step "Discipline 1's type-40 index: resource numbers by group key" 'lumora index $dir -d 1 --type 40'
 step "Its descriptions (type 2000)" 'lumora index $dir -d 1 --type 2000 | head -16'
 step "A type-40 resource (its .arh twin wins), references expanded, media as web paths" \
@@ -24,6 +24,23 @@ step "A type-40 resource (its .arh twin wins), references expanded, media as web
 step "The same resource's media as network paths, Q3 tried first" \
   'lumora resource $dir -d 1 --type 40 --id 0x100001 --path-kind unc --order 3 | grep -o "[^ ]*lumora-server[^] ]*" | sort -u'
 step "One medium" 'lumora media $dir -d 1 --kind 2 --folder 1005 --resource 0x100001 --path-kind url'
+step "Discipline 1 also holds every other exercise type: a video (type 1003) and its script" \
+  'lumora resource $dir -d 1 --type 1003 --id 0x100001 | head -24'
+step "Video Questions (type 8): its head links to video 1, one question per paragraph of it" \
+  'lumora resource $dir -d 1 --type 8 --id 0x100001 | head -24'
+step "A dictation (type 5): sentences with the URLs of their sounds" \
+  'lumora resource $dir -d 1 --type 5 --id 0x100001 | head -24'
+step "PatchWork (type 20): pictures with their words" \
+  'lumora resource $dir -d 1 --type 20 --id 0x100002 | head -20'
+step "The index of type 5, one of the types whose index also keeps a usage value per resource" \
+  'lumora index $dir -d 1 --type 5'
+step "Its file: the groups, then the usage table (numbers 1 and 2, each 0x0100: both have sentences)" \
+  'od -An -tx1 $dir/D001/r0000005.ari'
+step "Verify discipline 1's media and links: three problems are planted on purpose (type 8 #3 asks about paragraph 9 of a three-paragraph video, type 19 #3 has a position without its word, type 1006 #3 names a picture never delivered)" \
+  'lumora verify $dir -d 1 || true'
+step "Rebuild the type-7 index from its resource files into a scratch folder" \
+  'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'
+step "What a context code names" 'lumora label 0xA4020500'
 step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'
 step "Checksums as CRCFile.ini stores them" 'lumora crc $dir/Content.ini --json'

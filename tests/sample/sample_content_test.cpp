@@ -5,20 +5,29 @@
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type21_index.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/type1003.h>
+#include <lumora/resources/types/type1003_index.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type1005_index.h>
+#include <lumora/resources/types/type1010_index.h>
 #include <lumora/resources/types/type40.h>
+#include <lumora/resources/types/type5.h>
 #include <lumora/support/paths.h>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "fixtures/run_cli.h"
 #include "fixtures/temp_dir.h"
 #include "frame/content_tree.h"
 
@@ -80,6 +89,41 @@ size_t CountFiles(const TempDir& dir, const std::string& extension) {
   return count;
 }
 
+// The resource numbers any index form lists, repeats kept.
+std::multiset<uint32_t> IndexedNumbers(const TypeIndex& index) {
+  const DWordArray* numbers = nullptr;
+  DWordArray grouped;
+  if (const auto* groups = dynamic_cast<const GroupsIndex*>(&index)) {
+    groups->groups.GetResourceNumbers(0, grouped);
+    numbers = &grouped;
+  } else if (const auto* type1010 = dynamic_cast<const Type1010Index*>(&index)) {
+    type1010->groups.GetResourceNumbers(0, grouped);
+    numbers = &grouped;
+  } else if (const auto* type21 = dynamic_cast<const Type21Index*>(&index)) {
+    numbers = &type21->numbers;
+  } else if (const auto* plain = dynamic_cast<const PlainNumberIndex*>(&index)) {
+    numbers = &plain->numbers;
+  } else if (const auto* videos = dynamic_cast<const Type1003Index*>(&index)) {
+    numbers = &videos->table.keys();
+    return std::multiset<uint32_t>(numbers->begin(), numbers->begin() + videos->table.size());
+  }
+  if (numbers == nullptr) return {};
+  return std::multiset<uint32_t>(numbers->begin(), numbers->end());
+}
+
+// The numbers of the resource files of `type` in every course folder below `local`.
+std::multiset<uint32_t> NumbersOnDisk(const std::string& local, uint32_t type) {
+  std::multiset<uint32_t> numbers;
+  for (const auto& course : fs::directory_iterator(local)) {
+    std::error_code none;
+    for (const auto& file : fs::directory_iterator(course.path() / NumberedName('r', type), none)) {
+      if (file.path().extension() != ".ars") continue;
+      numbers.insert(static_cast<uint32_t>(std::stoul(file.path().stem().string().substr(1))));
+    }
+  }
+  return numbers;
+}
+
 class SampleContent : public LibraryTest {
  protected:
   void SetUp() override {
@@ -127,8 +171,11 @@ TEST_F(SampleContent, EveryDisciplineIndexesExercisesElementsAndDescriptions) {
     const ResourceIndex* index = lmGetResourceInfos(&request);
     ASSERT_NE(index, nullptr);
     const DWordArray& types = index->types();
-    EXPECT_EQ(std::vector<uint32_t>(types.begin(), types.end()),
-              (std::vector<uint32_t>{40, 2000, 1005}));
+    // The first discipline also holds every other type; the index files load in their order.
+    const std::vector<uint32_t> expected =
+        d == 1 ? std::vector<uint32_t>(kIndexLoadOrder.begin(), kIndexLoadOrder.end())
+               : std::vector<uint32_t>{40, 2000, 1005};
+    EXPECT_EQ(std::vector<uint32_t>(types.begin(), types.end()), expected);
     EXPECT_EQ(ListedNumbers(*index, 40).size(), 4u);
     EXPECT_EQ(ListedNumbers(*index, kContentElementType).size(), 8u);
 
@@ -220,6 +267,72 @@ TEST_F(SampleContent, TheArhTwinIsWhatLoads) {
   EXPECT_EQ(loaded.items.size(), stored.items.size() + 1);
 }
 
+// Types 40 and 1005 are checked above and the descriptions have no resource files.
+bool IsOtherType(uint32_t type) { return type != 40 && type != 1005 && type != 2000; }
+
+TEST_F(SampleContent, EveryOtherTypeIndexesExactlyTheResourceFilesOfDisciplineOne) {
+  const ContentRequest request = UrlRequest(1);
+  const ResourceIndex* index = lmGetResourceInfos(&request);
+  ASSERT_NE(index, nullptr);
+  for (uint32_t type : kExerciseTypes) {
+    if (!IsOtherType(type)) continue;
+    SCOPED_TRACE(type);
+    const TypeIndex* loaded = index->FindType(type);
+    ASSERT_NE(loaded, nullptr);
+    const std::multiset<uint32_t> listed = IndexedNumbers(*loaded);
+    EXPECT_GE(listed.size(), 2u);
+    EXPECT_EQ(listed, NumbersOnDisk(root() + "D001/", type));
+  }
+}
+
+// Every type reads back through the library, and the media land where each type looks them up:
+// a video's movie in Q3 and the sounds of a dictation in every quality folder.
+TEST_F(SampleContent, OneResourceOfEveryTypeReadsWithItsMedia) {
+  const ContentRequest request = UrlRequest(1, 3);
+  for (uint32_t type : kExerciseTypes) {
+    if (type == 2000) continue;
+    SCOPED_TRACE(type);
+    std::unique_ptr<ExerciseResource> resource = NewResource(type);
+    ASSERT_NE(resource, nullptr);
+    ASSERT_TRUE(lmGetResource(&request, MakeResourceId(1, 1), resource.get(), true));
+    EXPECT_EQ(resource->resourceId, MakeResourceId(1, 1));
+  }
+  Type1003Resource video;
+  ASSERT_TRUE(lmGetResource(&request, MakeResourceId(1, 1), &video, true));
+  EXPECT_EQ(video.video.path, UrlRoot(1) + "C0001/r0001003/Q3/v0000001.mpg");
+  EXPECT_EQ(video.script.paragraphs.size(), 3u);
+  Type5Resource dictation;
+  ASSERT_TRUE(lmGetResource(&request, MakeResourceId(1, 1), &dictation, true));
+  ASSERT_EQ(dictation.sentences.size(), 2u);
+  EXPECT_EQ(dictation.sentences[0].media.path, UrlRoot(1) + "C0001/r0000005/Q3/s0000010.swf");
+}
+
+// The sample plants three problems for the verification to find; everything else passes.
+TEST_F(SampleContent, VerifyingDisciplineOneFindsExactlyThePlantedProblems) {
+  const testing::CliResult result = testing::RunCli("verify '" + root() + "' -d 1 --json");
+  EXPECT_EQ(result.exit_code, 1);
+  std::set<uint32_t> types;
+  std::map<std::pair<uint32_t, uint32_t>, std::string> problems;
+  for (const auto& checked : nlohmann::json::parse(result.out)) {
+    const uint32_t type = checked["type"];
+    types.insert(type);
+    if (checked["ok"] == false) problems[{type, checked["resourceId"]}] = checked["report"];
+  }
+  EXPECT_EQ(types.size(), kExerciseTypes.size() - 1) << "every type but the descriptions";
+
+  const uint32_t third = MakeResourceId(1, 3);
+  using Key = std::pair<uint32_t, uint32_t>;
+  std::vector<Key> found;
+  for (const auto& [key, report] : problems) found.push_back(key);
+  ASSERT_EQ(found, (std::vector<Key>{{8, third}, {19, third}, {1006, third}}));
+  EXPECT_EQ(problems[Key(8, third)],
+            "\t\tParagraph n\xc2\xb0"
+            "9 of video 1 does not exist for Item: 1048579\n");
+  EXPECT_EQ(problems[Key(19, third)], "\t\tPositon Id: 4 not found for Item : 1048579!\n");
+  EXPECT_EQ(problems[Key(1006, third)],
+            "\t\tFile not found: " + root() + "D001/C0001/r0001006/Q1/p0000033.swf!\n");
+}
+
 TEST(SampleContentWriter, WritesTheSameBytesEveryTime) {
   TempDir first, second;
   WriteSample(first, 1);
@@ -233,8 +346,8 @@ TEST(SampleContentWriter, ResourcesGrowWithTheScale) {
   TempDir small, large;
   WriteSample(small, 1);
   WriteSample(large, 3);
-  EXPECT_EQ(CountFiles(small, ".ars"), 3u * 12);
-  EXPECT_EQ(CountFiles(large, ".ars"), 3u * 36);
+  // Twelve resource files per unit and discipline; the other types' few do not grow.
+  EXPECT_EQ(CountFiles(large, ".ars") - CountFiles(small, ".ars"), 3u * 24);
 }
 
 TEST(SampleContentWriter, RefusesAScaleOutOfRangeAndAnUnwritableFolder) {

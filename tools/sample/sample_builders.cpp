@@ -49,6 +49,9 @@ void AddItem(Type40Resource& exercise, uint32_t course, int unit, int slot, cons
   const int position = static_cast<int>(exercise.items.size());
   ExerciseItem& item = exercise.items.AddNew();
   SetText(item.content, phrase, true);
+  // The item keeps its own text but also names the stored element it was written from, as
+  // authored items do: checking an exercise looks for the file of every item's element.
+  item.content.reference = MakeResourceId(course, ElementNumber(course, unit, kPlainSlot));
   AddFirstPart(item, course, unit, slot, position);
   if (position % 2 == 0) AddSecondPart(item, course, unit);
   const uint32_t video = VideoNumber(course, unit, slot, position);

@@ -2,6 +2,7 @@
 
 #include <lumora/support/paths.h>
 
+#include "sample/sample_exercise_types.h"
 #include "sample/sample_index.h"
 #include "sample/sample_ini.h"
 #include "sample/sample_layout.h"
@@ -12,13 +13,17 @@ namespace lumora::sample {
 namespace {
 
 // Every discipline keeps its files in its own folder, which is both its Local root and its data
-// folder. One that is only listed still needs its description index: listing reads it.
+// folder. One that is only listed still needs its description index: listing reads it. One
+// discipline also shows every other exercise type, a few resources each whatever the scale.
 bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int scale,
                      std::string* error) {
   if (!WriteDescriptionIndex(folder, error)) return false;
   if (d.type != 0) return true;
-  return WriteSampleResources(folder, scale, error) && WriteSampleMedia(folder, scale, error) &&
-         RebuildResourceIndexes(folder, folder, error);
+  if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error)) {
+    return false;
+  }
+  if (d.id != kEveryTypeDiscipline) return RebuildResourceIndexes(folder, folder, error);
+  return WriteEveryExerciseType(folder, error) && RebuildEveryTypeIndex(folder, folder, error);
 }
 
 }  // namespace

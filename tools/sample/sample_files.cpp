@@ -1,5 +1,7 @@
 #include "sample/sample_files.h"
 
+#include <lumora/resources/exercise_resource.h>
+#include <lumora/resources/resource_files.h>
 #include <lumora/support/paths.h>
 
 #include <fstream>
@@ -29,6 +31,12 @@ bool StoreObjectFile(const std::string& path, Object& object, std::string* error
   if (LoadArchiveFile(path, true, object)) return true;
   *error = "cannot write " + path;
   return false;
+}
+
+bool StoreResourceFile(const std::string& root, uint32_t id, ExerciseResource& resource,
+                       std::string* error) {
+  resource.resourceId = id;
+  return StoreObjectFile(ResourceFilePath(root, resource.GetType(), id), resource, error);
 }
 
 }  // namespace lumora::sample

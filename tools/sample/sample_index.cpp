@@ -17,6 +17,8 @@
 namespace lumora::sample {
 namespace {
 
+constexpr uint32_t kDescriptionType = 2000;
+
 struct Description {
   uint32_t number;
   uint8_t attribute;  // its group key; repeated keys list once among a discipline's values
@@ -55,7 +57,7 @@ bool WriteDescriptionIndex(const std::string& data_folder, std::string* error) {
   }
   index.table.ObjectAt(0)->media =
       MediaRef(kMediaPicture, kDescriptionFolder, MakeResourceId(0, kDescriptionPicture));
-  return StoreObjectFile(IndexFilePath(data_folder, 2000), index, error);
+  return StoreObjectFile(IndexFilePath(data_folder, kDescriptionType), index, error);
 }
 
 bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
@@ -64,6 +66,18 @@ bool RebuildResourceIndexes(const std::string& root, const std::string& data_fol
   // element file; rebuilding the elements' index on its own first reports it.
   return RebuildIndex(kContentElementType, root, data_folder, error) &&
          RebuildIndex(Type40Resource::kType, root, data_folder, error);
+}
+
+bool RebuildEveryTypeIndex(const std::string& root, const std::string& data_folder,
+                           std::string* error) {
+  if (!RebuildResourceIndexes(root, data_folder, error)) return false;
+  for (uint32_t type : kExerciseTypes) {
+    if (type == Type40Resource::kType || type == kContentElementType || type == kDescriptionType) {
+      continue;
+    }
+    if (!RebuildIndex(type, root, data_folder, error)) return false;
+  }
+  return true;
 }
 
 }  // namespace lumora::sample

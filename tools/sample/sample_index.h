@@ -1,5 +1,5 @@
 // The index files of one discipline: the description index, written from its entries, and the
-// indexes of types 1005 and 40, rebuilt by the library from the resource files.
+// indexes of the other types, rebuilt by the library from the resource files.
 #pragma once
 
 #include <string>
@@ -13,5 +13,10 @@ bool WriteDescriptionIndex(const std::string& data_folder, std::string* error);
 // discipline's Local root `root`.
 bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
                             std::string* error);
+
+// Rebuilds the index of every exercise type but the descriptions, which are written from their
+// entries instead.
+bool RebuildEveryTypeIndex(const std::string& root, const std::string& data_folder,
+                           std::string* error);
 
 }  // namespace lumora::sample

@@ -19,6 +19,9 @@ inline constexpr int kMaxScale = 100000;
 // so a large sample stays small on disk.
 inline constexpr int kMediaUnits = 4;
 
+// The one discipline that also holds a few resources of every other exercise type.
+inline constexpr int kEveryTypeDiscipline = 1;
+
 inline constexpr uint32_t kElementFolder = 1005;
 inline constexpr uint32_t kExerciseFolder = 40;
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <initializer_list>
 #include <string>
 
 #include "sample/sample_files.h"
@@ -15,27 +14,6 @@ namespace lumora::sample {
 namespace {
 
 constexpr int kVideosPerExercise = 3;
-
-// One medium's files: its stem ("p0000001"), its extension and the quality folders holding it.
-struct MediumFiles {
-  uint32_t course;
-  uint32_t folder;
-  std::string stem;
-  const char* extension;
-  std::initializer_list<int> qualities;
-};
-
-bool WriteMedium(const std::string& root, const MediumFiles& medium, std::string* error) {
-  const std::string folder = root + CourseFolderName(medium.course) + kPathSeparator +
-                             NumberedName('r', medium.folder) + kPathSeparator;
-  const std::string name = medium.stem + medium.extension;
-  for (int q : medium.qualities) {
-    char quality[8];
-    std::snprintf(quality, sizeof quality, "Q%d%c", q, kPathSeparator);
-    if (!WriteBytesFile(folder + quality + name, "sample " + name + "\n", error)) return false;
-  }
-  return true;
-}
 
 // The element slots with a medium on disk; the missing picture stays without a file.
 bool WriteElementMedia(const std::string& root, uint32_t course, int unit, std::string* error) {
@@ -75,6 +53,18 @@ bool WriteUnitMedia(const std::string& root, uint32_t course, int unit, std::str
 }
 
 }  // namespace
+
+bool WriteMedium(const std::string& root, const MediumFiles& medium, std::string* error) {
+  const std::string folder = root + CourseFolderName(medium.course) + kPathSeparator +
+                             NumberedName('r', medium.folder) + kPathSeparator;
+  const std::string name = medium.stem + medium.extension;
+  for (int q : medium.qualities) {
+    char quality[8];
+    std::snprintf(quality, sizeof quality, "Q%d%c", q, kPathSeparator);
+    if (!WriteBytesFile(folder + quality + name, "sample " + name + "\n", error)) return false;
+  }
+  return true;
+}
 
 bool WriteSampleMedia(const std::string& root, int scale, std::string* error) {
   for (uint32_t course : kCourses) {

@@ -27,6 +27,20 @@ constexpr Phrase kInstructions[] = {
     {u"Ordena las frases.", u"Put the sentences in order.", u"Remets les phrases dans l'ordre."},
 };
 
+constexpr Phrase kSentences[] = {
+    {u"Me llamo Lucía y vivo en Sevilla.", u"My name is Lucía and I live in Seville.",
+     u"Je m'appelle Lucía et j'habite à Séville."},
+    {u"¿Dónde está la estación de tren?", u"Where is the train station?", u"Où est la gare ?"},
+    {u"Mañana vamos a la playa con los niños.",
+     u"Tomorrow we are going to the beach with the "
+     u"children.",
+     u"Demain nous allons à la plage avec les enfants."},
+    {u"El café de la esquina abre a las ocho.", u"The café on the corner opens at eight.",
+     u"Le café du coin ouvre à huit heures."},
+    {u"Quisiera un billete de ida y vuelta.", u"I would like a return ticket.",
+     u"Je voudrais un billet aller-retour."},
+};
+
 constexpr Phrase kRevision = {u"Repaso: escribe lo que oyes.", u"Review: write what you hear.",
                               u"Révision : écris ce que tu entends."};
 
@@ -35,6 +49,8 @@ constexpr Phrase kRevision = {u"Repaso: escribe lo que oyes.", u"Review: write w
 const Phrase& WordAt(uint32_t n) { return kWords[n % std::size(kWords)]; }
 
 const Phrase& InstructionAt(uint32_t n) { return kInstructions[n % std::size(kInstructions)]; }
+
+const Phrase& SentenceAt(uint32_t n) { return kSentences[n % std::size(kSentences)]; }
 
 const Phrase& RevisionInstruction() { return kRevision; }
 

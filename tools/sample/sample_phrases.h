@@ -21,6 +21,8 @@ struct Phrase {
 const Phrase& WordAt(uint32_t n);
 // Instructions for the items of an exercise, by item position, cycling as well.
 const Phrase& InstructionAt(uint32_t n);
+// Whole sentences, for dictations, riddles and video scripts; cycling as well.
+const Phrase& SentenceAt(uint32_t n);
 // The instruction of an item added to a revised exercise.
 const Phrase& RevisionInstruction();
 

@@ -16,24 +16,18 @@ namespace {
 // The exercise that gets a revised twin: the first of course 1.
 constexpr uint32_t kRevisedCourse = 1;
 
-bool StoreResource(const std::string& root, uint32_t id, ExerciseResource& resource,
-                   std::string* error) {
-  resource.resourceId = id;
-  return StoreObjectFile(ResourceFilePath(root, resource.GetType(), id), resource, error);
-}
-
 bool WriteUnit(const std::string& root, uint32_t course, int unit, std::string* error) {
   for (int slot = 0; slot < kElementsPerUnit; ++slot) {
     ContentElement element;
     BuildElement(element, course, unit, slot);
     const uint32_t id = MakeResourceId(course, ElementNumber(course, unit, slot));
-    if (!StoreResource(root, id, element, error)) return false;
+    if (!StoreResourceFile(root, id, element, error)) return false;
   }
   for (int slot = 0; slot < kExercisesPerUnit; ++slot) {
     Type40Resource exercise;
     BuildExercise(exercise, course, unit, slot);
     const uint32_t id = MakeResourceId(course, ExerciseNumber(course, unit, slot));
-    if (!StoreResource(root, id, exercise, error)) return false;
+    if (!StoreResourceFile(root, id, exercise, error)) return false;
   }
   return true;
 }
