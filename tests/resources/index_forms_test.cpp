@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 #include "fixtures/archive_bytes.h"
 #include "fixtures/temp_dir.h"
 #include "resources/index_bytes.h"
@@ -83,27 +86,38 @@ TEST(ResourceGroups, MalformedFormsFail) {
   EXPECT_FALSE(testing::LoadObject(Concat({U32(0x7FFFFFFF), {1}}), groups));
 }
 
-TEST(UsageIndex, FlagIsTheTopByteOfTheTypesWidth) {
-  struct Case {
+// Every type with a usage table, at the boundaries of its value width. A flagged type answers
+// the most significant byte of the value (the whole value when it is one byte) and false for a
+// number missing from the table; the other usage types answer true for every number.
+TEST(UsageIndex, FlagIsTheTopByteOfEachTypesWidth) {
+  const std::vector<std::pair<uint32_t, bool>> boundaries[] = {
+      {},
+      {{0x01, true}, {0x80, true}, {0x00, false}},                    // 8-bit
+      {{0x0100, true}, {0xFF00, true}, {0x00FF, false}, {0, false}},  // 16-bit
+      {},
+      {{0x01000000, true}, {0xFF000000, true}, {0x00FFFFFF, false}, {0, false}},  // 32-bit
+  };
+  const struct {
     uint32_t type;
     uint32_t width;
-    uint32_t value;
-    bool flag;
-  };
-  const Case cases[] = {
-      {12, 1, 0, false},     {12, 1, 1, true},          {5, 2, 0x0100, true},
-      {5, 2, 0x00FF, false}, {40, 4, 0x01000000, true}, {40, 4, 0x00FFFFFF, false},
-      {2, 2, 0, true},       {3, 1, 0, true},           {7, 2, 0, true},
-      {13, 1, 0, false},     {15, 1, 1, true},
-  };
-  for (const auto& c : cases) {
-    auto index = NewTypeIndex(c.type);
-    ASSERT_NE(index, nullptr);
-    ASSERT_TRUE(testing::LoadObject(
-        Concat({Groups(1, {{1, {500}}}), UsageTable({500}, c.width, {c.value})}), *index))
-        << c.type;
-    EXPECT_EQ(index->GetResourceFlag(500), c.flag) << c.type << " " << c.value;
-    EXPECT_EQ(index->GetResourceFlag(501), c.type == 2 || c.type == 3 || c.type == 7) << c.type;
+    bool flagged;
+  } types[] = {{5, 2, true},  {8, 1, true},  {12, 1, true}, {13, 1, true},
+               {15, 1, true}, {28, 1, true}, {40, 4, true}, {2, 2, false},
+               {3, 1, false}, {7, 2, false}, {9, 1, false}};
+  for (const auto& t : types) {
+    for (const auto& [value, flag] : boundaries[t.width]) {
+      SCOPED_TRACE(::testing::Message() << "type " << t.type << " value " << value);
+      auto index = NewTypeIndex(t.type);
+      ASSERT_NE(index, nullptr);
+      // Resource 7, listed first, is flagged whatever the width; 500 carries the boundary.
+      ASSERT_TRUE(testing::LoadObject(
+          Concat({Groups(1, {{1, {7, 500}}}), UsageTable({7, 500}, t.width, {0xFFFFFFFF, value})}),
+          *index));
+      EXPECT_EQ(index->GetResourceFlag(500), flag || !t.flagged);
+      EXPECT_TRUE(index->GetResourceFlag(7));
+      EXPECT_EQ(index->GetResourceFlag(501), !t.flagged);
+      EXPECT_EQ(index->GetResourceFlag(0), !t.flagged);
+    }
   }
 }
 

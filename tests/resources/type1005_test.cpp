@@ -1,5 +1,6 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type1005.h>
+#include <lumora/resources/types/type1005_index.h>
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,32 @@ TEST(ContentElement, OnlyByteOneMarksAReference) {
   EXPECT_TRUE(reference.isReference);
 }
 
+// The index entry's first byte holds flag A in bit 0 and flag B in bit 1, nothing else; a
+// loaded byte is read by bit tests, so other bits are dropped when it is stored again.
+TEST(Type1005Index, EntryFlagsAreBitsZeroAndOne) {
+  const struct {
+    bool a, b;
+    uint8_t stored;
+  } cases[] = {{false, false, 0x00}, {true, false, 0x01}, {false, true, 0x02}, {true, true, 0x03}};
+  for (const auto& c : cases) {
+    Type1005Entry entry;
+    entry.flagA = c.a;
+    entry.flagB = c.b;
+    entry.values.Add(7);
+    const Bytes expected = Concat({{c.stored}, U32(1), U32(1), U32(0), {7}});
+    EXPECT_EQ(testing::StoreObject(entry), expected) << int{c.stored};
+    Type1005Entry back;
+    ASSERT_TRUE(testing::LoadObject(expected, back));
+    EXPECT_EQ(back.flagA, c.a);
+    EXPECT_EQ(back.flagB, c.b);
+  }
+  Type1005Entry high_bits;
+  ASSERT_TRUE(testing::LoadObject(Concat({{0xFE}, kEmptyBytes}), high_bits));
+  EXPECT_FALSE(high_bits.flagA);
+  EXPECT_TRUE(high_bits.flagB);
+  EXPECT_EQ(testing::StoreObject(high_bits), Concat({{0x02}, kEmptyBytes}));
+}
+
 class ContentElementMedia : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -142,6 +169,26 @@ TEST_F(ContentElementMedia, MissingReferenceAndMediumZeroLeaveNoPath) {
   no_medium.media = MediaRef(kMediaPicture, 1005, 0);
   no_medium.ResolveMedia(Request(kPathUrl), dir_.path(), "http://h/");
   EXPECT_EQ(no_medium.media.path, "");
+}
+
+TEST_F(ContentElementMedia, VerifyReportsOnlyAnOwnMediumThatIsMissing) {
+  ByteArray q2;
+  q2.Add(2);
+  std::string report = "old";
+  EXPECT_TRUE(stored_->VerifyMedia(dir_.path(), q2, report, 0x00100009));
+  EXPECT_EQ(report, "");
+
+  auto lost = testing::FullElement(u"Lost", 0x00100008);
+  EXPECT_FALSE(lost->VerifyMedia(dir_.path(), q2, report, 0x00100008));
+  EXPECT_EQ(report, "\t\tFile not found: " + dir_.path() + "C0001/r0001005/Q2/p0000008.swf!\n");
+
+  const auto reference = testing::ReferenceElement(0x00100008);
+  const auto no_medium = testing::FullElement(u"None");
+  for (ContentElement* quiet : {reference.get(), no_medium.get()}) {
+    report = "old";
+    EXPECT_TRUE(quiet->VerifyMedia(dir_.path(), q2, report, 0x00100008));
+    EXPECT_EQ(report, "");
+  }
 }
 
 }  // namespace

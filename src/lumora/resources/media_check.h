@@ -1,27 +1,16 @@
-// What the media verifications of the exercise types share: formatting a report line, the
-// lookups a verification makes for one medium, the copies an export expects in each quality
-// folder, and the resource files that a resource's link records name.
+// What the media verifications of the exercise types share: the lookups a verification makes
+// for one medium, the copies an export expects in each quality folder, and the resource files
+// that a resource's link records name.
 #pragma once
 
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/media_ref.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <string>
 #include <vector>
 
 namespace lumora {
-
-// One report line from a printf pattern. Report texts are narrow Windows-1252 strings.
-template <typename... Args>
-std::string ReportLine(const char* format, Args... args) {
-  const int length = std::snprintf(nullptr, 0, format, args...);
-  if (length <= 0) return std::string();
-  std::string line(static_cast<size_t>(length), '\0');
-  std::snprintf(line.data(), line.size() + 1, format, args...);
-  return line;
-}
 
 // Looks `media` up below `root` once per listed quality folder, as the export will, stopping
 // once a video has been found (videos are copied once). When no lookup finds it, answers the

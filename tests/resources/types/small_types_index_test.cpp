@@ -87,7 +87,7 @@ TEST(SmallTypeIndexes, GroupedUnderTheKeyByteOrTheFirstValue) {
 }
 
 // Types 5 and 28 flag a resource that has sentences; types 9 and 21 flag every number.
-TEST(SmallTypeIndexes, UsageFlagsFollowTheTopByte) {
+TEST(SmallTypeIndexes, RebuiltUsageValuesFlagResourcesWithSentences) {
   testing::TempDir dir;
   Type5Resource empty5;
   Type28Resource empty28;
@@ -106,23 +106,6 @@ TEST(SmallTypeIndexes, UsageFlagsFollowTheTopByte) {
     EXPECT_EQ(index->GetResourceFlag(1), type == 9);
     EXPECT_TRUE(index->GetResourceFlag(2));
     EXPECT_EQ(index->GetResourceFlag(3), type == 9);  // absent
-  }
-
-  // Stored values read back: type 5 answers its high byte, type 28 its whole byte.
-  struct Case {
-    uint32_t type, width, value;
-    bool flag;
-  };
-  for (const Case& c :
-       {Case{5, 2, 0x0100, true}, Case{5, 2, 0x00FF, false}, Case{28, 1, 0x80, true},
-        Case{28, 1, 0x01, true}, Case{28, 1, 0x00, false}}) {
-    auto index = NewTypeIndex(c.type);
-    ASSERT_TRUE(
-        testing::LoadObject(testing::Concat({testing::Groups(1, {{1, {500}}}),
-                                             testing::UsageTable({500}, c.width, {c.value})}),
-                            *index));
-    EXPECT_EQ(index->GetResourceFlag(500), c.flag) << c.type << " " << c.value;
-    EXPECT_FALSE(index->GetResourceFlag(501)) << c.type;
   }
   EXPECT_TRUE(NewTypeIndex(21)->GetResourceFlag(12345));
 }

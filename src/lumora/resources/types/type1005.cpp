@@ -1,6 +1,8 @@
 #include <lumora/platform/archive.h>
 #include <lumora/platform/archive_string.h>
+#include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/support/paths.h>
@@ -35,6 +37,16 @@ bool ContentElement::CopyMedia(const std::string& destination_root, uint32_t des
   if (isReference || media.resource == 0) return true;
   return MediaCopier(destination_root, destination_id, GetType(), quality_folders, source_root)
       .Copy(media);
+}
+
+bool ContentElement::VerifyMedia(const std::string& root, const ByteArray& quality_folders,
+                                 std::string& report, uint32_t resource_id) {
+  (void)resource_id;
+  report.clear();
+  if (isReference || media.resource == 0) return true;
+  const std::string missing = LookUpMissingMedium(root, quality_folders, media);
+  if (!missing.empty()) report = FormatReportLine("\t\tFile not found: %s!\n", missing.c_str());
+  return report.empty();
 }
 
 }  // namespace lumora

@@ -33,6 +33,10 @@ class ContentElement : public ExerciseResource {
   uint32_t GetType() const override { return kContentElementType; }
   bool CopyMedia(const std::string& destination_root, uint32_t destination_id,
                  const ByteArray& quality_folders, const std::string& source_root) override;
+  // Reports the element's own medium when no quality folder holds it. A reference carries no
+  // medium of its own, so it has nothing to report.
+  bool VerifyMedia(const std::string& root, const ByteArray& quality_folders, std::string& report,
+                   uint32_t resource_id) override;
 
   MarkedText text;
   std::string note;

@@ -1,6 +1,7 @@
 // Media resolution, verification and export copying of type-10 resources.
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type10.h>
 #include <lumora/support/paths.h>
 
@@ -20,16 +21,17 @@ bool Type10Resource::VerifyMedia(const std::string& root, const ByteArray& quali
                                  std::string& report, uint32_t resource_id) {
   report.clear();
   if (words.empty()) {
-    report = ReportLine("\t\tNo words found for Item n\xB0%d!\n", static_cast<int>(resource_id));
+    report =
+        FormatReportLine("\t\tNo words found for Item n\xB0%d!\n", static_cast<int>(resource_id));
     return false;
   }
   for (auto& word : words) {
     const std::string missing = LookUpMissingMedium(root, quality_folders, word->media);
-    if (!missing.empty()) report += ReportLine("\t\tFile not found: %s!\n", missing.c_str());
+    if (!missing.empty()) report += FormatReportLine("\t\tFile not found: %s!\n", missing.c_str());
   }
   for (const LinkedFile& file : LinkedResourceFiles(root, records, resource_id)) {
     if (!FileExists(file.path))
-      report += ReportLine("\t\tFile not found: %s!\n", file.path.c_str());
+      report += FormatReportLine("\t\tFile not found: %s!\n", file.path.c_str());
   }
   return report.empty();
 }

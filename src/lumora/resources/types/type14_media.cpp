@@ -1,6 +1,7 @@
 // Media resolution, verification and export copying of type-14 resources: the media list.
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type14.h>
 
 namespace lumora {
@@ -20,7 +21,7 @@ bool Type14Resource::VerifyMedia(const std::string& root, const ByteArray& quali
   report.clear();
   for (auto& medium : media) {
     const std::string missing = LookUpMissingMedium(root, quality_folders, *medium);
-    if (!missing.empty()) report += ReportLine("\t\tFile not found: %s!\n", missing.c_str());
+    if (!missing.empty()) report += FormatReportLine("\t\tFile not found: %s!\n", missing.c_str());
   }
   return report.empty();
 }

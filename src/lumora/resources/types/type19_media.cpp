@@ -1,6 +1,7 @@
 // Verification of type-19 resources: the picture, the linked resources and the positions.
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_check.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/type19.h>
@@ -32,18 +33,19 @@ bool Type19Resource::VerifyMedia(const std::string& root, const ByteArray& quali
   (void)quality_folders;
   report.clear();
   const std::string picture = PicturePath(root, resource_id);
-  if (!FileExists(picture)) report += ReportLine("\t\tFile not found: %s!\n", picture.c_str());
+  if (!FileExists(picture))
+    report += FormatReportLine("\t\tFile not found: %s!\n", picture.c_str());
   for (const LinkedFile& file : LinkedResourceFiles(root, records, resource_id)) {
     if (!FileExists(file.path)) {
-      report += ReportLine("\t\tFile not found: %s!\n", file.path.c_str());
+      report += FormatReportLine("\t\tFile not found: %s!\n", file.path.c_str());
     } else if (!Opens(file.path, file.type)) {
-      report += ReportLine("\t\tCan not open file: %s!\n", file.path.c_str());
+      report += FormatReportLine("\t\tCan not open file: %s!\n", file.path.c_str());
     }
   }
   for (uint32_t position : positions) {
     if (position == 0 || position > names.items.size()) {
-      report += ReportLine("\t\tPositon Id: %d not found for Item : %d!\n",
-                           static_cast<int>(position), static_cast<int>(resource_id));
+      report += FormatReportLine("\t\tPositon Id: %d not found for Item : %d!\n",
+                                 static_cast<int>(position), static_cast<int>(resource_id));
     }
   }
   return report.empty();

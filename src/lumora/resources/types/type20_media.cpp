@@ -1,6 +1,7 @@
 // Media resolution, verification and export copying of type-20 resources.
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type20.h>
 
 namespace lumora {
@@ -19,13 +20,14 @@ bool Type20Resource::VerifyMedia(const std::string& root, const ByteArray& quali
                                  std::string& report, uint32_t resource_id) {
   report.clear();
   if (pieces.empty()) {
-    report = ReportLine("\t\tNo media found for Item n\xB0%d!\n", static_cast<int>(resource_id));
+    report =
+        FormatReportLine("\t\tNo media found for Item n\xB0%d!\n", static_cast<int>(resource_id));
     return false;
   }
   for (auto& piece : pieces) {
     LookUpMissingMedium(root, quality_folders, piece->media);
     for (const std::string& path : MissingMediumCopies(root, quality_folders, piece->media)) {
-      report += ReportLine("\t\tFile not found: %s\n", path.c_str());
+      report += FormatReportLine("\t\tFile not found: %s\n", path.c_str());
     }
   }
   return report.empty();

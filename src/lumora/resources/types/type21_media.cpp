@@ -1,5 +1,6 @@
 // Media resolution and verification of type-21 resources.
 #include <lumora/resources/media_check.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type21.h>
 #include <lumora/support/paths.h>
 
@@ -19,16 +20,16 @@ bool Type21Resource::VerifyMedia(const std::string& root, const ByteArray& quali
                                  std::string& report, uint32_t resource_id) {
   report.clear();
   if (clues.empty()) {
-    report = ReportLine("\t\tNo Clues found for Item: %d!\n", static_cast<int>(resource_id));
+    report = FormatReportLine("\t\tNo Clues found for Item: %d!\n", static_cast<int>(resource_id));
     return false;
   }
   for (auto& clue : clues) {
     const std::string missing = LookUpMissingMedium(root, quality_folders, clue->media);
-    if (!missing.empty()) report += ReportLine("\t\tFile noy found: %s!\n", missing.c_str());
+    if (!missing.empty()) report += FormatReportLine("\t\tFile noy found: %s!\n", missing.c_str());
   }
   for (const LinkedFile& file : LinkedResourceFiles(root, records, resource_id)) {
     if (!FileExists(file.path))
-      report += ReportLine("\t\tFile not found: %s!\n", file.path.c_str());
+      report += FormatReportLine("\t\tFile not found: %s!\n", file.path.c_str());
   }
   return report.empty();
 }

@@ -1,5 +1,6 @@
 // Media resolution and verification of type-28 resources.
 #include <lumora/resources/media_check.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type28.h>
 
 namespace lumora {
@@ -17,13 +18,13 @@ bool Type28Resource::VerifyMedia(const std::string& root, const ByteArray& quali
                                  std::string& report, uint32_t resource_id) {
   report.clear();
   if (sentences.empty()) {
-    report =
-        ReportLine("\t\tNo sentences found for Item n\xB0%d!\n", static_cast<int>(resource_id));
+    report = FormatReportLine("\t\tNo sentences found for Item n\xB0%d!\n",
+                              static_cast<int>(resource_id));
     return false;
   }
   for (auto& sentence : sentences) {
     const std::string missing = LookUpMissingMedium(root, quality_folders, sentence->media);
-    if (!missing.empty()) report += ReportLine("\t\tFile not found: %s!\n", missing.c_str());
+    if (!missing.empty()) report += FormatReportLine("\t\tFile not found: %s!\n", missing.c_str());
   }
   return report.empty();
 }

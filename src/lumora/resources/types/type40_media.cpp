@@ -1,20 +1,11 @@
 // Media resolution, verification and export copying of type-40 resources.
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/types/type40.h>
 
-#include <cstdio>
-
 namespace lumora {
 namespace {
-
-// Report texts are narrow Windows-1252 strings, where the degree sign is the byte 0xB0.
-std::string NoMediaLine(uint32_t resource_id) {
-  char line[64];
-  std::snprintf(line, sizeof line, "\t\tNo media found for Item n\xB0%d!\n",
-                static_cast<int>(resource_id));
-  return line;
-}
 
 void AppendReferenceCheck(const std::string& root, uint32_t reference, std::string& report) {
   std::string message;
@@ -41,7 +32,8 @@ bool Type40Resource::VerifyMedia(const std::string& root, const ByteArray& quali
                                  std::string& report, uint32_t resource_id) {
   report.clear();
   if (items.empty()) {
-    report = NoMediaLine(resource_id);
+    report =
+        FormatReportLine("\t\tNo media found for Item n\xB0%d!\n", static_cast<int>(resource_id));
     return false;
   }
   // Media that cannot be found are not reported; the lookups only settle their paths.

@@ -2,6 +2,7 @@
 // one sound; its texts carry no media.
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type5.h>
 
 namespace lumora {
@@ -20,18 +21,18 @@ bool Type5Resource::VerifyMedia(const std::string& root, const ByteArray& qualit
                                 std::string& report, uint32_t resource_id) {
   report.clear();
   if (sentences.empty()) {
-    report =
-        ReportLine("\t\tNo sentences found for Item n\xB0%d!\n", static_cast<int>(resource_id));
+    report = FormatReportLine("\t\tNo sentences found for Item n\xB0%d!\n",
+                              static_cast<int>(resource_id));
     return false;
   }
   for (auto& sentence : sentences) {
     const std::string missing = LookUpMissingMedium(root, quality_folders, sentence->media);
     if (!missing.empty()) {
-      report += ReportLine("\t\tFile not found: %s!\n", missing.c_str());
+      report += FormatReportLine("\t\tFile not found: %s!\n", missing.c_str());
       continue;
     }
     for (const std::string& path : MissingMediumCopies(root, quality_folders, sentence->media)) {
-      report += ReportLine("\t\tFile not found: %s\n", path.c_str());
+      report += FormatReportLine("\t\tFile not found: %s\n", path.c_str());
     }
   }
   return report.empty();

@@ -1,6 +1,7 @@
 // Media resolution, verification and export copying of type-9 resources: the one picture.
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type9.h>
 
 namespace lumora {
@@ -16,11 +17,12 @@ bool Type9Resource::VerifyMedia(const std::string& root, const ByteArray& qualit
                                 std::string& report, uint32_t resource_id) {
   report.clear();
   if (!LookUpMissingMedium(root, quality_folders, media).empty()) {
-    report = ReportLine("\t\tMedia not found for Item n\xB0%d!\n", static_cast<int>(resource_id));
+    report =
+        FormatReportLine("\t\tMedia not found for Item n\xB0%d!\n", static_cast<int>(resource_id));
     return false;
   }
   for (const std::string& path : MissingMediumCopies(root, quality_folders, media)) {
-    report += ReportLine("\t\tFile not found : %s\n", path.c_str());
+    report += FormatReportLine("\t\tFile not found : %s\n", path.c_str());
   }
   return report.empty();
 }
