@@ -36,7 +36,7 @@ step "The index of type 5, one of the types whose index also keeps a usage value
   'lumora index $dir -d 1 --type 5'
 step "Its file: the groups, then the usage table (numbers 1 and 2, each 0x0100: both have sentences)" \
   'od -An -tx1 $dir/D001/r0000005.ari'
-step "Verify discipline 1's media and links: three problems are planted on purpose (type 8 #3 asks about paragraph 9 of a three-paragraph video, type 19 #3 has a position without its word, type 1006 #3 names a picture never delivered)" \
+step "Verify discipline 1's media and links: problems are planted on purpose (type 8 #3 asks about paragraph 9 of a three-paragraph video, type 19 #3 has a position without its word, type 1006 #3 and one element per unit name pictures never delivered)" \
   'lumora verify $dir -d 1 || true'
 step "Rebuild the type-7 index from its resource files into a scratch folder" \
   'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'

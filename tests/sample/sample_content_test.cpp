@@ -307,7 +307,8 @@ TEST_F(SampleContent, OneResourceOfEveryTypeReadsWithItsMedia) {
   EXPECT_EQ(dictation.sentences[0].media.path, UrlRoot(1) + "C0001/r0000005/Q3/s0000010.swf");
 }
 
-// The sample plants three problems for the verification to find; everything else passes.
+// The sample plants problems for the verification to find: three in the exercise types and
+// the element pictures that were never delivered (one per unit); everything else passes.
 TEST_F(SampleContent, VerifyingDisciplineOneFindsExactlyThePlantedProblems) {
   const testing::CliResult result = testing::RunCli("verify '" + root() + "' -d 1 --json");
   EXPECT_EQ(result.exit_code, 1);
@@ -324,7 +325,15 @@ TEST_F(SampleContent, VerifyingDisciplineOneFindsExactlyThePlantedProblems) {
   using Key = std::pair<uint32_t, uint32_t>;
   std::vector<Key> found;
   for (const auto& [key, report] : problems) found.push_back(key);
-  ASSERT_EQ(found, (std::vector<Key>{{8, third}, {19, third}, {1006, third}}));
+  const uint32_t element_1 = MakeResourceId(1, 4);
+  const uint32_t element_2 = MakeResourceId(2, 8);
+  ASSERT_EQ(found, (std::vector<Key>{{8, third},
+                                     {19, third},
+                                     {1005, element_1},
+                                     {1005, element_2},
+                                     {1006, third}}));
+  EXPECT_EQ(problems[Key(1005, element_2)],
+            "\t\tFile not found: " + root() + "D001/C0002/r0001005/Q1/p0000008.swf!\n");
   EXPECT_EQ(problems[Key(8, third)],
             "\t\tParagraph n\xc2\xb0"
             "9 of video 1 does not exist for Item: 1048579\n");
