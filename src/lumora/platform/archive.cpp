@@ -52,9 +52,10 @@ void Archive::Flush() {
   if (!ok) throw ArchiveError(ArchiveError::Kind::kWriteFault, "write failed");
 }
 
+uint64_t Archive::Available() const { return (end_ - begin_) + stream_.Remaining(); }
+
 void Archive::Require(uint64_t n) {
-  uint64_t available = (end_ - begin_) + stream_.Remaining();
-  if (available < n) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "stored count too large");
+  if (Available() < n) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "stored count too large");
 }
 
 void Archive::Io(uint8_t& v) { IsStoring() ? WriteU8(v) : void(v = ReadU8()); }

@@ -63,6 +63,8 @@ class Archive {
   // Throws kEndOfFile unless at least n more bytes can be read. Called before allocating room
   // for a stored count, so that a corrupted count fails instead of exhausting memory.
   void Require(uint64_t n);
+  // Bytes a loading archive can still read: those buffered and those the stream holds.
+  uint64_t Available() const;
   // True when a loading archive has no buffered byte left (the stream may still hold more).
   bool AtEnd() const { return begin_ == end_; }
 

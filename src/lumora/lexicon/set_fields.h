@@ -1,0 +1,23 @@
+// The value encodings inside set-file records, over the library's little-endian archive.
+// Fixed-width numbers use Archive::Io directly; byte lists are ByteArray's stored form (element
+// size 1 as the marker, count, growth step, bytes).
+#pragma once
+
+#include <lumora/platform/archive.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace lumora {
+
+// u32 count of UTF-16 code units, then the units little-endian; no terminator.
+void IoText(Archive& ar, std::u16string& text);
+
+// u32 count, then the values.
+void IoU32List(Archive& ar, std::vector<uint32_t>& values);
+
+// A byte holding 0 or 1; any other byte read counts as 1.
+void IoFlag(Archive& ar, uint8_t& flag);
+
+}  // namespace lumora

@@ -1,0 +1,133 @@
+#include <lumora/lexicon/set_file.h>
+#include <lumora/platform/codepage.h>
+#include <lumora/platform/stream.h>
+#include <lumora/platform/tick.h>
+#include <lumora/support/crc32.h>
+#include <lumora/support/paths.h>
+#include <lumora/support/xcrc_file2.h>
+
+#include <unistd.h>
+
+#include <new>
+#include <vector>
+
+namespace lumora {
+namespace {
+
+constexpr uint32_t kWesternCodePage = 1252;
+constexpr size_t kReadBlock = 64 * 1024;
+
+// Archive bytes written through the checksummed file, so that its running checksum sees them.
+class ChecksummedSink : public Stream {
+ public:
+  explicit ChecksummedSink(xCRCFile2& file) : file_(file) {}
+  size_t Read(void*, size_t) override { return 0; }
+  bool Write(const void* buffer, size_t n) override { return file_.Write(buffer, n); }
+  uint64_t Remaining() const override { return 0; }
+
+ private:
+  xCRCFile2& file_;
+};
+
+std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
+  std::vector<uint8_t> bytes;
+  for (;;) {
+    const size_t old_size = bytes.size();
+    bytes.resize(old_size + kReadBlock);
+    const size_t got = file.Read(bytes.data() + old_size, kReadBlock);
+    bytes.resize(old_size + got);
+    if (got < kReadBlock) return bytes;
+  }
+}
+
+// Whether the bytes the reader took match the recorded checksum. The file's own running
+// checksum covers everything read from disk; when the records end before the file does, only
+// the part they took counts, so trailing bytes make the table fail as they would for a reader
+// that stops at its last record.
+bool ReadBytesAreGood(const xCRCFile2& file, const std::vector<uint8_t>& bytes, size_t taken) {
+  if (taken == bytes.size()) return file.IsGood();
+  return file.expected() == 0 || Crc32(bytes.data(), taken) == file.expected();
+}
+
+bool TryWrite(const std::string& path, uint32_t version,
+              const std::function<void(Archive&)>& write_records) {
+  // A folder that cannot take a new file must not have its old one truncated either.
+  if (::access(FolderOf(path).empty() ? "." : FolderOf(path).c_str(), W_OK) != 0) return false;
+  using namespace open_flags;
+  xCRCFile2 file(true, true);
+  if (!file.Open(path, kCreate | kWrite | kBinary)) return false;
+  bool written = true;
+  try {
+    ChecksummedSink sink(file);
+    Archive ar(sink, Archive::Mode::kStore);
+    ar.WriteU32(version);
+    write_records(ar);
+    ar.Flush();
+    written = file.Flush();
+  } catch (const std::exception&) {
+    written = false;
+  }
+  file.Close();
+  return written && file.verified();
+}
+
+}  // namespace
+
+uint32_t WrittenSetVersion(SetFamily family) { return family == SetFamily::kGlossary ? 2 : 1; }
+
+bool AcceptsSetVersion(SetFamily family, uint32_t version) {
+  const auto signed_version = static_cast<int32_t>(version);
+  switch (family) {
+    case SetFamily::kGlossary:
+      return signed_version < 100;
+    case SetFamily::kGrammar:
+      return signed_version <= 1;
+    case SetFamily::kClassification:
+      return version == 1;
+  }
+  return false;
+}
+
+std::string SetFilePath(const std::string& folder, std::u16string_view name,
+                        std::string_view extension) {
+  return folder + EncodeCodePage(name, kWesternCodePage) + std::string(extension);
+}
+
+SetSaveRetry& SetSaveRetrySettings() {
+  static SetSaveRetry settings{xCRCFile2::ShouldRetry, 100};
+  return settings;
+}
+
+bool ReadSetFile(const std::string& path, SetFamily family,
+                 const std::function<void(Archive&, uint32_t version)>& read_records,
+                 uint32_t* version_read) {
+  using namespace open_flags;
+  try {
+    xCRCFile2 file(true, true);
+    if (!file.Open(path, kRead | kBinary)) return false;
+    MemoryStream stream(ReadWhole(file));
+    file.Close();
+    Archive ar(stream, Archive::Mode::kLoad);
+    const uint32_t version = ar.ReadU32();
+    if (!AcceptsSetVersion(family, version)) return false;
+    if (version_read) *version_read = version;
+    read_records(ar, version);
+    return ReadBytesAreGood(file, stream.bytes(), stream.bytes().size() - ar.Available());
+  } catch (const std::exception&) {
+    // A file that ends inside a record, or a count no file could hold.
+    return false;
+  }
+}
+
+bool WriteSetFile(const std::string& path, uint32_t version,
+                  const std::function<void(Archive&)>& write_records) {
+  const SetSaveRetry& retry = SetSaveRetrySettings();
+  const uint32_t start = TickCount();
+  for (uint32_t attempts = 1;; ++attempts) {
+    if (TryWrite(path, version, write_records)) return true;
+    if (!retry.shouldRetry || !retry.shouldRetry(attempts, start)) return false;
+    WaitTicks(retry.pause_ms);
+  }
+}
+
+}  // namespace lumora

@@ -1,0 +1,70 @@
+// Reading and writing one set file: u32 version, u32 record count, the records in key order,
+// nothing else. Files go through the checksummed file with the checksum kept in CRCFile.ini of
+// the same folder, so a table that was changed or cut short after it was written reads as
+// failed.
+#pragma once
+
+#include <lumora/lexicon/set_table.h>
+#include <lumora/platform/archive.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace lumora {
+
+// The three families of set files differ only in the version they write and accept.
+enum class SetFamily { kGlossary, kGrammar, kClassification };
+
+uint32_t WrittenSetVersion(SetFamily family);
+// Glossary: below 100; grammar: not above 1 (both compared as signed numbers); classification:
+// exactly 1.
+bool AcceptsSetVersion(SetFamily family, uint32_t version);
+
+// folder + name + extension, the name converted to code page 1252 (table names are plain
+// ASCII in practice). `folder` ends in the separator.
+std::string SetFilePath(const std::string& folder, std::u16string_view name,
+                        std::string_view extension = ".set");
+
+// How long a failed save keeps trying: `shouldRetry(attempts made, start tick)`, by default the
+// checksummed file's rule (three attempts at least, then up to 30 s, then 10 s), with
+// `pause_ms` between attempts. Process-wide; the library never changes it, tests shorten it.
+struct SetSaveRetry {
+  std::function<bool(uint32_t, uint32_t)> shouldRetry;
+  uint32_t pause_ms = 100;
+};
+SetSaveRetry& SetSaveRetrySettings();
+
+// Reads the file at `path`: checks its version against `family`, then hands the archive, at
+// the record count, to `read_records` with the version read. True only when everything was
+// read and the checksum of the bytes read matches the recorded one. `version_read` receives
+// the version once it was accepted. Never throws.
+bool ReadSetFile(const std::string& path, SetFamily family,
+                 const std::function<void(Archive&, uint32_t version)>& read_records,
+                 uint32_t* version_read = nullptr);
+
+// Writes `version` then whatever `write_records` writes, retrying as SetSaveRetrySettings
+// says; true once an attempt closed with the checksum on disk agreeing with what was written
+// (and recorded in CRCFile.ini). Never throws.
+bool WriteSetFile(const std::string& path, uint32_t version,
+                  const std::function<void(Archive&)>& write_records);
+
+// The usual case: one table read from or written to its own set file in `folder`.
+template <typename Record>
+bool ReadSetTable(const std::string& folder, std::u16string_view name, SetFamily family,
+                  SetTable<Record>& table, uint32_t* version_read = nullptr) {
+  return ReadSetFile(
+      SetFilePath(folder, name), family,
+      [&table](Archive& ar, uint32_t version) { table.ReadRecords(ar, version); }, version_read);
+}
+
+template <typename Record>
+bool WriteSetTable(const std::string& folder, std::u16string_view name, SetFamily family,
+                   SetTable<Record>& table) {
+  const uint32_t version = WrittenSetVersion(family);
+  return WriteSetFile(SetFilePath(folder, name), version,
+                      [&table, version](Archive& ar) { table.WriteRecords(ar, version); });
+}
+
+}  // namespace lumora

@@ -1,0 +1,101 @@
+// One table of a set file in memory: an ordered map from the record's key to the record, kept
+// as a vector sorted by key. Set files store their records in key order, so reading appends at
+// the end and a 100,000-word glossary costs its records and nothing per entry.
+//
+// A record type provides:
+//   Key()                          its key: an unsigned number, or a std::tuple of them compared
+//                                  part by part, the first part first;
+//   Serialize(Archive&, schema)    its fields in file order (schema: the version the file was
+//                                  read with, for the tables whose layout grew over time).
+#pragma once
+
+#include <lumora/platform/archive.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+namespace lumora {
+
+template <typename Record>
+class SetTable {
+ public:
+  using Key = decltype(std::declval<const Record&>().Key());
+
+  uint32_t size() const { return static_cast<uint32_t>(records_.size()); }
+  bool empty() const { return records_.empty(); }
+  const std::vector<Record>& records() const { return records_; }
+  auto begin() const { return records_.begin(); }
+  auto end() const { return records_.end(); }
+  void Clear() { records_.clear(); }
+
+  const Record* Find(const Key& key) const {
+    auto it = LowerBound(key);
+    return it != records_.end() && it->Key() == key ? &*it : nullptr;
+  }
+  Record* Find(const Key& key) {
+    return const_cast<Record*>(static_cast<const SetTable&>(*this).Find(key));
+  }
+
+  // The records whose keys lie in [first, last), in key order.
+  std::pair<typename std::vector<Record>::const_iterator,
+            typename std::vector<Record>::const_iterator>
+  Range(const Key& first, const Key& last) const {
+    return {LowerBound(first), LowerBound(last)};
+  }
+
+  // Adds `record` unless its key is already there: the record already held stays. False when
+  // the record was dropped.
+  bool Insert(Record record) {
+    const Key key = record.Key();
+    if (records_.empty() || records_.back().Key() < key) {
+      records_.push_back(std::move(record));
+      return true;
+    }
+    auto it = LowerBound(key);
+    if (it != records_.end() && it->Key() == key) return false;
+    records_.insert(it, std::move(record));
+    return true;
+  }
+
+  bool Remove(const Key& key) {
+    auto it = LowerBound(key);
+    if (it == records_.end() || !(it->Key() == key)) return false;
+    records_.erase(it);
+    return true;
+  }
+
+  // Empties the table, then reads the u32 count and that many records.
+  void ReadRecords(Archive& ar, uint32_t schema) {
+    records_.clear();
+    const uint32_t count = ar.ReadU32();
+    // Every record takes at least one byte, so a count beyond the bytes left is a damaged file.
+    ar.Require(count);
+    records_.reserve(count);
+    for (uint32_t i = 0; i < count; ++i) {
+      Record record{};
+      record.Serialize(ar, schema);
+      Insert(std::move(record));
+    }
+  }
+
+  // The u32 count and every record in key order.
+  void WriteRecords(Archive& ar, uint32_t schema) {
+    ar.WriteU32(size());
+    for (Record& record : records_) record.Serialize(ar, schema);
+  }
+
+ private:
+  typename std::vector<Record>::const_iterator LowerBound(const Key& key) const {
+    return std::lower_bound(records_.begin(), records_.end(), key,
+                            [](const Record& r, const Key& k) { return r.Key() < k; });
+  }
+  typename std::vector<Record>::iterator LowerBound(const Key& key) {
+    return std::lower_bound(records_.begin(), records_.end(), key,
+                            [](const Record& r, const Key& k) { return r.Key() < k; });
+  }
+
+  std::vector<Record> records_;
+};
+
+}  // namespace lumora
