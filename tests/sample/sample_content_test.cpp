@@ -327,11 +327,9 @@ TEST_F(SampleContent, VerifyingDisciplineOneFindsExactlyThePlantedProblems) {
   for (const auto& [key, report] : problems) found.push_back(key);
   const uint32_t element_1 = MakeResourceId(1, 4);
   const uint32_t element_2 = MakeResourceId(2, 8);
-  ASSERT_EQ(found, (std::vector<Key>{{8, third},
-                                     {19, third},
-                                     {1005, element_1},
-                                     {1005, element_2},
-                                     {1006, third}}));
+  ASSERT_EQ(found,
+            (std::vector<Key>{
+                {8, third}, {19, third}, {1005, element_1}, {1005, element_2}, {1006, third}}));
   EXPECT_EQ(problems[Key(1005, element_2)],
             "\t\tFile not found: " + root() + "D001/C0002/r0001005/Q1/p0000008.swf!\n");
   EXPECT_EQ(problems[Key(8, third)],
