@@ -44,5 +44,9 @@ step "What a context code names" 'lumora label 0xA4020500'
 step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'
 step "Checksums as CRCFile.ini stores them" 'lumora crc $dir/Content.ini --json'
+step "The classification the glossaries refer to; grammatical categories carry a label per language" \
+  'lumora classification $dir | head -24'
+step "Its set files: version, record count and checksum against CRCFile.ini" \
+  'lumora check-sets $dir/Classes'
 step "Code page 1251 bytes decoded to UTF-8" "printf '\\xcf\\xf0\\xe8\\xe2\\xe5\\xf2\\n' | lumora codepage decode 1251"
 step "And back to code page 1251" "printf 'Привет\\n' | lumora codepage encode 1251 | od -An -tx1"

@@ -2,6 +2,7 @@
 
 #include <lumora/support/paths.h>
 
+#include "sample/sample_classes.h"
 #include "sample/sample_exercise_types.h"
 #include "sample/sample_index.h"
 #include "sample/sample_ini.h"
@@ -38,7 +39,8 @@ bool WriteSampleContent(const std::string& dir, const SampleOptions& options, st
     *error = "cannot create folder " + root;
     return false;
   }
-  if (!WriteContentIni(root, error)) return false;
+  // Content.ini names no Local root of its own, so the content root is the common one.
+  if (!WriteContentIni(root, error) || !WriteSampleClassification(root, error)) return false;
   for (const SampleDiscipline& d : kSampleDisciplines) {
     if (!WriteDiscipline(root + DisciplineFolder(d.id), d, options.scale, error)) return false;
   }

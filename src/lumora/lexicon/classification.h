@@ -1,25 +1,85 @@
-// The library-wide classification: the label tables that glossaries and grammars refer to by
-// number. Loaded once per open from the common "Classes" folder and emptied at close. The
-// tables and their set files come later; until then nothing loads and the object stays empty.
+// The library-wide classification: five label tables that glossaries and grammars refer to by
+// number. Loaded once per open from the common "Classes" folder and emptied at close; every
+// glossary borrows it.
+//
+// The host calls it through its table of virtual operations, so their order is fixed and the
+// unused slots keep their place. It is deliberately not an Object: the destructor is the first
+// slot.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/lexicon/class_records.h>
+#include <lumora/lexicon/set_table.h>
 
+#include <cstdint>
+#include <map>
 #include <string>
+#include <vector>
 
 namespace lumora {
 
-class Classification : public Object {
- public:
-  const char* ClassName() const override { return "Classification"; }
+// Labels by id, made narrow in code page 1252.
+using ClassLabelMap = std::map<uint32_t, std::string>;
 
-  // Reads the tables from `folder`; false while there are no tables to read.
-  bool load(const std::string& folder) {
-    (void)folder;
+class Classification {
+ public:
+  Classification() = default;
+  Classification(const Classification&) = delete;
+  Classification& operator=(const Classification&) = delete;
+
+  virtual ~Classification() = default;
+  // The messages joined with line feeds, none after the last.
+  virtual std::string getErrors() const;
+  virtual bool unusedSlot2() { return false; }
+  // Slots 3, 4 and 8 to 10 set one entry per record of their table; other entries stay.
+  virtual bool getFamSemLabels(ClassLabelMap& labels) const;
+  virtual bool getCatGramLabels(ClassLabelMap& labels) const;
+  virtual bool unusedSlot5() { return false; }
+  // The label of grammatical category `id` in the language numbered `language`; empty for an
+  // absent id or a language without a label of its own.
+  virtual std::u16string getCatGramLabel(uint32_t language, uint32_t id) const;
+  virtual bool getUnusedLabels(ClassLabelMap& labels) const {
+    labels.clear();
     return false;
   }
-  void Clear() {}
-  bool IsEmpty() const { return true; }
+  virtual bool getSyntacticFunctionLabels(ClassLabelMap& labels, uint32_t unused) const;
+  virtual bool getVerbTenseLabels(ClassLabelMap& labels, uint32_t unused) const;
+  virtual bool getGrammarPointCategoryLabels(ClassLabelMap& labels, uint32_t unused) const;
+  // A record's value; 0 when the id is absent.
+  virtual uint16_t getCatGramValue(uint32_t id) const;
+  virtual uint16_t getFamSemValue(uint32_t id) const;
+  virtual uint16_t getSyntacticFunctionValue(uint32_t id) const;
+  virtual uint16_t getVerbTenseValue(uint32_t id) const;
+  virtual uint16_t getGrammarPointCategoryValue(uint32_t id) const;
+  virtual bool unusedSlot16() { return false; }
+  virtual bool unusedSlot17() { return false; }
+  virtual bool unusedSlot18() { return false; }
+  virtual bool unusedSlot19() { return false; }
+  virtual bool unusedSlot20() { return false; }
+  virtual bool unusedSlot21() { return false; }
+  virtual bool unusedSlot22() { return false; }
+  virtual bool unusedSlot23() { return false; }
+  virtual bool unusedSlot24() { return false; }
+  virtual bool unusedSlot25() { return false; }
+  virtual bool unusedSlot26() { return false; }
+
+  // Sets `folder` (with a trailing separator) and reads the five tables from it in order,
+  // stopping at the first that fails.
+  bool load(const std::string& folder_path);
+  // Writes the five tables into `folder` in the same order; false when any could not be saved.
+  bool save();
+  // The separator is appended unless the text is empty or already ends in one.
+  void SetFolder(const std::string& folder_path);
+  // Empties the tables and the messages; the folder stays.
+  void Clear();
+
+  std::vector<std::string> errors;
+  std::string folder;
+  uint32_t formatVersion = 1;
+  SetTable<FamSemRecord> famSem;
+  SetTable<CatGramRecord> catGram;
+  SetTable<GrammarPointCategoryRecord> grammarPointCategories;
+  SetTable<VerbTenseRecord> verbTenses;
+  SetTable<SyntacticFunctionRecord> syntacticFunctions;
 };
 
 }  // namespace lumora
