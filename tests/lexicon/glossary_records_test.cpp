@@ -74,8 +74,7 @@ TEST(GlossaryRecords, EachTableStoresItsFieldsInFileOrder) {
     std::function<Bytes(const Bytes&)> reload;
   };
   const Case cases[] = {
-      {"t_Glo_FNs",
-       Stored(GloFNRecord{0x0102, 7, 8, 9, {1, 2}, {}, 3, 4, 5}),
+      {"t_Glo_FNs", Stored(GloFNRecord{0x0102, 7, 8, 9, {1, 2}, {}, 3, 4, 5}),
        Concat({U16(0x0102), U16(7), U16(8), U8(9), U32(2), U32(1), U32(2), U32(0), U8(3), U8(4),
                U16(5)}),
        Reloaded<GloFNRecord>},
@@ -134,8 +133,8 @@ TEST(GlossaryRecords, KeysOfSeveralPartsCompareTheFirstPartFirst) {
 
 TEST(GlossaryRecords, OldSoundsFileIsWrittenBackWithTheQualityLists) {
   testing::TempDir dir;
-  const Bytes old = Concat({U32(1), U32(1), U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"),
-                            Text(u""), Text(u"cc")});
+  const Bytes old = Concat(
+      {U32(1), U32(1), U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"), Text(u""), Text(u"cc")});
   dir.Write("t_Glo_Sounds.set", std::string(old.begin(), old.end()));
   SetTable<GloSoundRecord> sounds;
   uint32_t version = 0;

@@ -75,8 +75,7 @@ int32_t ReadSetIndexVersion(const std::string& folder, std::u16string_view name)
 }
 
 bool WriteSetIndexVersion(const std::string& folder, std::u16string_view name) {
-  return profile::WriteString(ChecksumList(folder), xCRCFile2::kListSection,
-                              IndexVersionKey(name),
+  return profile::WriteString(ChecksumList(folder), xCRCFile2::kListSection, IndexVersionKey(name),
                               std::to_string(kUsableRecordsIndexVersion));
 }
 
@@ -95,9 +94,8 @@ bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& 
 
 std::string QualityFilePath(const std::string& folder, uint32_t quality, uint32_t word) {
   char tail[48];
-  std::snprintf(tail, sizeof tail, "Q%d%c%03d%c%02d.swf", static_cast<int>(quality),
-                kPathSeparator, static_cast<int>(word / 100), kPathSeparator,
-                static_cast<int>(word % 100));
+  std::snprintf(tail, sizeof tail, "Q%d%c%03d%c%02d.swf", static_cast<int>(quality), kPathSeparator,
+                static_cast<int>(word / 100), kPathSeparator, static_cast<int>(word % 100));
   return folder + tail;
 }
 
@@ -131,9 +129,8 @@ bool WriteIndexedSetFile(const std::string& folder, std::u16string_view name,
   return RetrySave([&] { return TryWriteIndexed(set_path, index_path, write_records); });
 }
 
-bool FetchSetRecord(const std::string& folder, std::u16string_view name,
-                    const DWordArray& offsets, uint32_t word,
-                    const std::function<void(Archive&)>& read) {
+bool FetchSetRecord(const std::string& folder, std::u16string_view name, const DWordArray& offsets,
+                    uint32_t word, const std::function<void(Archive&)>& read) {
   if (word < 1 || word > kLastWord || word >= offsets.size()) return false;
   const uint32_t offset = offsets[word];
   if (offset == kNoRecordOffset) return false;

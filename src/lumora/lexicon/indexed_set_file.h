@@ -71,9 +71,8 @@ bool WriteIndexedSetFile(const std::string& folder, std::u16string_view name,
 // Reads one record of `name` at the offset the index gives `word`, with the newest layout and
 // without checksum checking. False for words outside 1..65534 or the index, words without
 // an offset, and any read error; `read` then may have seen part of a record.
-bool FetchSetRecord(const std::string& folder, std::u16string_view name,
-                    const DWordArray& offsets, uint32_t word,
-                    const std::function<void(Archive&)>& read);
+bool FetchSetRecord(const std::string& folder, std::u16string_view name, const DWordArray& offsets,
+                    uint32_t word, const std::function<void(Archive&)>& read);
 
 // A table read through its index when one exists and `with_index` is false: the offsets and
 // the index version are read and no record is. Otherwise the set file is read whole.
@@ -112,8 +111,8 @@ bool SaveIndexedSetTable(const std::string& folder, std::u16string_view name,
 
 // One record fetched through the index (see FetchSetRecord); `record` changes only on success.
 template <typename Record>
-bool FetchSetRecord(const std::string& folder, std::u16string_view name,
-                    const DWordArray& offsets, uint32_t word, Record& record) {
+bool FetchSetRecord(const std::string& folder, std::u16string_view name, const DWordArray& offsets,
+                    uint32_t word, Record& record) {
   Record fetched{};
   if (!FetchSetRecord(folder, name, offsets, word,
                       [&fetched](Archive& ar) { fetched.Serialize(ar, kLargestGlossarySchema); })) {
