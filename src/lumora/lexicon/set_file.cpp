@@ -1,12 +1,9 @@
 #include <lumora/lexicon/set_file.h>
+#include <lumora/lexicon/set_file_write.h>
 #include <lumora/platform/codepage.h>
 #include <lumora/platform/stream.h>
-#include <lumora/platform/tick.h>
 #include <lumora/support/crc32.h>
-#include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
-
-#include <unistd.h>
 
 #include <new>
 #include <vector>
@@ -16,18 +13,6 @@ namespace {
 
 constexpr uint32_t kWesternCodePage = 1252;
 constexpr size_t kReadBlock = 64 * 1024;
-
-// Archive bytes written through the checksummed file, so that its running checksum sees them.
-class ChecksummedSink : public Stream {
- public:
-  explicit ChecksummedSink(xCRCFile2& file) : file_(file) {}
-  size_t Read(void*, size_t) override { return 0; }
-  bool Write(const void* buffer, size_t n) override { return file_.Write(buffer, n); }
-  uint64_t Remaining() const override { return 0; }
-
- private:
-  xCRCFile2& file_;
-};
 
 std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
   std::vector<uint8_t> bytes;
@@ -51,8 +36,7 @@ bool ReadBytesAreGood(const xCRCFile2& file, const std::vector<uint8_t>& bytes, 
 
 bool TryWrite(const std::string& path, uint32_t version,
               const std::function<void(Archive&)>& write_records) {
-  // A folder that cannot take a new file must not have its old one truncated either.
-  if (::access(FolderOf(path).empty() ? "." : FolderOf(path).c_str(), W_OK) != 0) return false;
+  if (!FolderTakesNewFile(path)) return false;
   using namespace open_flags;
   xCRCFile2 file(true, true);
   if (!file.Open(path, kCreate | kWrite | kBinary)) return false;
@@ -121,13 +105,7 @@ bool ReadSetFile(const std::string& path, SetFamily family,
 
 bool WriteSetFile(const std::string& path, uint32_t version,
                   const std::function<void(Archive&)>& write_records) {
-  const SetSaveRetry& retry = SetSaveRetrySettings();
-  const uint32_t start = TickCount();
-  for (uint32_t attempts = 1;; ++attempts) {
-    if (TryWrite(path, version, write_records)) return true;
-    if (!retry.shouldRetry || !retry.shouldRetry(attempts, start)) return false;
-    WaitTicks(retry.pause_ms);
-  }
+  return RetrySave([&] { return TryWrite(path, version, write_records); });
 }
 
 }  // namespace lumora

@@ -81,8 +81,18 @@ class SetTable {
 
   // The u32 count and every record in key order.
   void WriteRecords(Archive& ar, uint32_t schema) {
+    WriteRecords(ar, schema, [](const Record&) {});
+  }
+
+  // The same, calling `before_each(record)` just before each record is written: a table with
+  // an index notes there where each record starts.
+  template <typename BeforeEach>
+  void WriteRecords(Archive& ar, uint32_t schema, BeforeEach before_each) {
     ar.WriteU32(size());
-    for (Record& record : records_) record.Serialize(ar, schema);
+    for (Record& record : records_) {
+      before_each(static_cast<const Record&>(record));
+      record.Serialize(ar, schema);
+    }
   }
 
  private:

@@ -1,0 +1,152 @@
+#include <lumora/lexicon/indexed_set_file.h>
+#include <lumora/platform/file.h>
+#include <lumora/platform/profile.h>
+#include <lumora/platform/stream.h>
+#include <lumora/support/xcrc_file2.h>
+
+#include <cstdio>
+#include <exception>
+#include <vector>
+
+namespace lumora {
+namespace {
+
+constexpr int32_t kFirstRefusedIndexVersion = 100;
+constexpr int32_t kUnrecordedIndexVersion = 1;
+constexpr int32_t kUsableRecordsIndexVersion = 2;
+constexpr uint32_t kLastWord = 65534;
+constexpr size_t kReadBlock = 64 * 1024;
+
+std::string IndexVersionKey(std::u16string_view name) {
+  return "Version_" + SetIndexPath("", name);
+}
+
+std::string ChecksumList(const std::string& folder) { return folder + xCRCFile2::kListName; }
+
+bool ReadWhole(const std::string& path, std::vector<uint8_t>& bytes) {
+  File file;
+  if (!file.Open(path, open_flags::kRead | open_flags::kBinary)) return false;
+  for (;;) {
+    const size_t old_size = bytes.size();
+    bytes.resize(old_size + kReadBlock);
+    const size_t got = file.Read(bytes.data() + old_size, kReadBlock);
+    bytes.resize(old_size + got);
+    if (got < kReadBlock) return true;
+  }
+}
+
+bool TryWriteIndexed(const std::string& set_path, const std::string& index_path,
+                     const std::function<void(Archive&, SetIndexEntries&)>& write_records) {
+  if (!FolderTakesNewFile(set_path)) return false;
+  using namespace open_flags;
+  xCRCFile2 set_file(true, true);
+  xCRCFile2 index_file(true, true);
+  if (!set_file.Open(set_path, kCreate | kWrite | kBinary)) return false;
+  if (!index_file.Open(index_path, kCreate | kWrite | kBinary)) return false;
+  bool written = true;
+  try {
+    ChecksummedSink set_sink(set_file);
+    ChecksummedSink index_sink(index_file);
+    Archive set(set_sink, Archive::Mode::kStore);
+    Archive index(index_sink, Archive::Mode::kStore);
+    SetIndexEntries entries(set, set_sink, index);
+    set.WriteU32(WrittenSetVersion(SetFamily::kGlossary));
+    write_records(set, entries);
+    set.Flush();
+    index.Flush();
+    written = set_file.Flush() && index_file.Flush();
+  } catch (const std::exception&) {
+    written = false;
+  }
+  set_file.Close();
+  index_file.Close();
+  return written && set_file.verified() && index_file.verified();
+}
+
+}  // namespace
+
+std::string SetIndexPath(const std::string& folder, std::u16string_view name) {
+  return SetFilePath(folder, name, ".idx");
+}
+
+int32_t ReadSetIndexVersion(const std::string& folder, std::u16string_view name) {
+  return static_cast<int32_t>(profile::GetInt(ChecksumList(folder), xCRCFile2::kListSection,
+                                              IndexVersionKey(name), kUnrecordedIndexVersion));
+}
+
+bool WriteSetIndexVersion(const std::string& folder, std::u16string_view name) {
+  return profile::WriteString(ChecksumList(folder), xCRCFile2::kListSection, IndexVersionKey(name),
+                              std::to_string(kUsableRecordsIndexVersion));
+}
+
+bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
+                  DWordArray& offsets) {
+  const int32_t recorded = ReadSetIndexVersion(folder, name);
+  if (recorded >= kFirstRefusedIndexVersion) return false;
+  version = recorded;
+  offsets.RemoveAll();
+  std::vector<uint8_t> bytes;
+  if (!ReadWhole(SetIndexPath(folder, name), bytes)) return false;
+  offsets.SetSize(static_cast<uint32_t>(bytes.size() / 4));
+  for (uint32_t i = 0; i < offsets.size(); ++i) offsets[i] = DecodeU32(bytes.data() + 4 * i);
+  return true;
+}
+
+std::string QualityFilePath(const std::string& folder, uint32_t quality, uint32_t word) {
+  char tail[48];
+  std::snprintf(tail, sizeof tail, "Q%d%c%03d%c%02d.swf", static_cast<int>(quality), kPathSeparator,
+                static_cast<int>(word / 100), kPathSeparator, static_cast<int>(word % 100));
+  return folder + tail;
+}
+
+bool IsIndexableRecord(const std::string& folder, uint32_t word, bool present,
+                       int32_t index_version, const ByteArray* qualities) {
+  if (word == 0 || word == 0xFFFF) return false;
+  if (index_version < kUsableRecordsIndexVersion) return true;
+  if (!present) return false;
+  if (qualities == nullptr) return true;
+  for (uint8_t quality : *qualities) {
+    if (!FileExists(QualityFilePath(folder, quality, word))) return false;
+  }
+  return true;
+}
+
+void SetIndexEntries::Enter(uint32_t word, bool usable) {
+  for (; nextWord_ < word; ++nextWord_) index_.WriteU32(kNoRecordOffset);
+  uint32_t entry = kNoRecordOffset;
+  if (usable) {
+    set_.Flush();
+    entry = static_cast<uint32_t>(setSink_.written());
+  }
+  index_.WriteU32(entry);
+  nextWord_ = word + 1;
+}
+
+bool WriteIndexedSetFile(const std::string& folder, std::u16string_view name,
+                         const std::function<void(Archive&, SetIndexEntries&)>& write_records) {
+  const std::string set_path = SetFilePath(folder, name);
+  const std::string index_path = SetIndexPath(folder, name);
+  return RetrySave([&] { return TryWriteIndexed(set_path, index_path, write_records); });
+}
+
+bool FetchSetRecord(const std::string& folder, std::u16string_view name, const DWordArray& offsets,
+                    uint32_t word, const std::function<void(Archive&)>& read) {
+  if (word < 1 || word > kLastWord || word >= offsets.size()) return false;
+  const uint32_t offset = offsets[word];
+  if (offset == kNoRecordOffset) return false;
+  File file;
+  if (!file.Open(SetFilePath(folder, name), open_flags::kRead | open_flags::kBinary)) {
+    return false;
+  }
+  if (!file.SeekTo(offset)) return false;
+  try {
+    FileStream stream(file);
+    Archive ar(stream, Archive::Mode::kLoad);
+    read(ar);
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace lumora
