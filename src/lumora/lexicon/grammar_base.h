@@ -20,15 +20,14 @@ class CGramBase : public Object {
  public:
   const char* ClassName() const override { return "CGramBase"; }
 
-  // 0
+  // 0: the tables go with the object.
   ~CGramBase() override = default;
   virtual bool reserved01() { return false; }
   virtual bool reserved02() { return false; }
   virtual bool reserved03() { return false; }
   virtual bool reserved04() { return false; }
   virtual bool reserved05() { return false; }
-  // 6
-  // Every message followed by a line feed.
+  // 6: every message followed by a line feed.
   virtual std::string getErrors() const;
   virtual bool reserved07() { return false; }
   virtual bool reserved08() { return false; }
