@@ -1,4 +1,7 @@
 #include <lumora/lexicon/grammar.h>
+#include <lumora/lexicon/set_file.h>
+#include <lumora/support/paths.h>
+#include <lumora/support/share_file.h>
 
 #include <gtest/gtest.h>
 
@@ -105,6 +108,26 @@ TEST(GrammarFile, LoadStopsAtTheFirstFailingTable) {
   CGramV6 missing;
   EXPECT_FALSE(missing.load(dir.path() + "nowhere"));
   EXPECT_EQ(missing.folder, dir.path() + "nowhere/");
+}
+
+TEST(GrammarFile, SaveStopsAtTheFirstTableItCannotWrite) {
+  testing::TempDir dir;
+  // A folder where the subpoints' file belongs cannot be opened for writing.
+  ASSERT_TRUE(CreateFolderPath(dir.path() + "t_Gr_Subpoints.set/"));
+  SetSaveRetry& retry = SetSaveRetrySettings();
+  const SetSaveRetry saved_retry = retry;
+  const ShareFileSettings saved_open = ShareFileRetrySettings();
+  retry.shouldRetry = [](uint32_t, uint32_t) { return false; };
+  ShareFileRetrySettings() = {1, 0, 0};
+  CGramV6 g = OneOfEach();
+  g.setFolder(dir.path());
+  const bool ok = g.save();
+  retry = saved_retry;
+  ShareFileRetrySettings() = saved_open;
+  EXPECT_FALSE(ok);
+  EXPECT_TRUE(FileExists(dir.path() + "t_Gr_Pictures.set"));
+  EXPECT_FALSE(FileExists(dir.path() + "t_Gr_Parts.set"));
+  EXPECT_FALSE(FileExists(dir.path() + "t_Gr_Bubbles.set"));
 }
 
 }  // namespace
