@@ -6,8 +6,8 @@
 namespace lumora {
 namespace {
 
-// The grammar's media folder is handed to the host as it has always been built: course and
-// resource folder joined by a backslash whatever the path kind, and no separator at the end.
+// Hosts take the grammar's media folder as it comes: the course and resource folders joined by
+// a backslash whatever the path kind, with no separator at the end.
 CGramV6* Grammar(const ContentRequest* request) {
   Discipline* discipline = request ? FindDiscipline(request->disciplineId) : nullptr;
   if (discipline == nullptr) return nullptr;
