@@ -9,6 +9,7 @@
 
 #include <lumora/frame/discipline_info.h>
 #include <lumora/lexicon/classification.h>
+#include <lumora/lexicon/grammar.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/exercise_resource.h>
@@ -61,6 +62,10 @@ LUMORA_EXPORT bool lmGetMediaPath(const lumora::ContentRequest* request, lumora:
 // The data folder of the request's discipline; the common Local root when there is none.
 LUMORA_EXPORT std::string lmGetPathInfos(const lumora::ContentRequest* request);
 LUMORA_EXPORT lumora::Classification* lmGetClassification();
+
+// The grammar of the request's discipline, or null; its mediaFolder is first set below the root
+// the request's path kind selects.
+LUMORA_EXPORT lumora::CGramV6* lmGetGrammar(const lumora::ContentRequest* request);
 
 }  // extern "C"
 

@@ -4,6 +4,7 @@
 
 #include "sample/sample_classes.h"
 #include "sample/sample_exercise_types.h"
+#include "sample/sample_grammar.h"
 #include "sample/sample_index.h"
 #include "sample/sample_ini.h"
 #include "sample/sample_layout.h"
@@ -20,7 +21,8 @@ bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int s
                      std::string* error) {
   if (!WriteDescriptionIndex(folder, error)) return false;
   if (d.type != 0) return true;
-  if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error)) {
+  if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
+      !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error)) {
     return false;
   }
   if (d.id != kEveryTypeDiscipline) return RebuildResourceIndexes(folder, folder, error);

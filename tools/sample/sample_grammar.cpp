@@ -1,0 +1,111 @@
+#include "sample/sample_grammar.h"
+
+#include <lumora/lexicon/grammar.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/support/paths.h>
+
+#include <array>
+
+#include "sample/sample_dates.h"
+
+namespace lumora::sample {
+namespace {
+
+constexpr uint8_t kEnglish = 14;
+constexpr uint32_t kGrammarFolder = 1002;
+
+// The course-language texts of one discipline: a title per point, a keyword per subpoint and
+// two bubble sentences.
+struct CourseTexts {
+  uint8_t language;
+  std::array<const char16_t*, 3> titles;
+  std::array<const char16_t*, 5> keywords;
+  std::array<const char16_t*, 2> bubbles;
+};
+
+constexpr CourseTexts kCourseTexts[] = {
+    {17,
+     {u"Les articles", u"Le présent", u"Les questions"},
+     {u"le", u"un", u"parler", u"aller", u"est-ce que"},
+     {u"Le chat dort.", u"Je parle français."}},
+    {18,
+     {u"Die Artikel", u"Das Präsens", u"Die Fragen"},
+     {u"der", u"ein", u"spielen", u"sein", u"ob"},
+     {u"Der Hund schläft.", u"Ich spiele Tennis."}},
+    {33,
+     {u"Los artículos", u"El presente", u"Las preguntas"},
+     {u"el", u"un", u"hablar", u"ir", u"qué"},
+     {u"El gato duerme.", u"Hablo español."}},
+};
+
+constexpr const char16_t* kEnglishTitles[] = {u"Articles", u"Present tense", u"Questions"};
+
+// Subpoints by point: level, category code and English title.
+struct SampleSubpoint {
+  uint32_t id;
+  uint8_t level;
+  uint32_t categoryCode;
+  const char16_t* title;
+};
+constexpr SampleSubpoint kSubpoints[] = {
+    {1001, 1, 1010000, u"Definite article"}, {1002, 1, 1020000, u"Indefinite article"},
+    {2001, 2, 2010000, u"Regular verbs"},    {2002, 3, 2020000, u"Irregular verbs"},
+    {3001, 2, 1030000, u"Yes/no questions"},
+};
+
+const CourseTexts& TextsFor(uint8_t language) {
+  for (const CourseTexts& texts : kCourseTexts) {
+    if (texts.language == language) return texts;
+  }
+  return kCourseTexts[0];
+}
+
+void AddPoints(CGramV6& g, const CourseTexts& texts) {
+  for (uint16_t p = 1; p <= 3; ++p) {
+    g.points.Insert({p, static_cast<uint8_t>(p), p == 1, kEnglishTitles[p - 1]});
+    g.titles.Insert({p, kEnglish, kEnglishTitles[p - 1]});
+    g.titles.Insert({p, texts.language, texts.titles[p - 1]});
+  }
+  g.pictures.Insert({1, 1, 11});
+  g.pictures.Insert({1, 2, 12});
+  g.pictures.Insert({2, 1, 21});
+}
+
+void AddSubpoints(CGramV6& g, const CourseTexts& texts) {
+  for (size_t i = 0; i < std::size(kSubpoints); ++i) {
+    const SampleSubpoint& s = kSubpoints[i];
+    g.subpoints.Insert({s.id, s.level, s.categoryCode});
+    g.subpointTitles.Insert({s.id, kEnglish, s.title});
+    g.keywords.Insert({s.id * 100 + 1, texts.keywords[i]});
+    g.parts.Insert({s.id, 1, 0, 1, s.id * 10, 0, 0, 0});
+  }
+  // Lesson 1 teaches the articles and regular verbs, lesson 2 the rest.
+  for (uint32_t subpoint : {1001u, 1002u, 2001u})
+    g.links.Insert({1, subpoint, subpoint * 100, 1, 0});
+  for (uint32_t subpoint : {2002u, 3001u}) g.links.Insert({2, subpoint, subpoint * 100, 1, 0});
+}
+
+void AddBubbles(CGramV6& g, const CourseTexts& texts) {
+  g.bubbles.Insert({texts.language, 1, 1, 1, texts.bubbles[0]});
+  g.bubbles.Insert({texts.language, 2, 1, 1, texts.bubbles[1]});
+  g.bubbles.Insert({kEnglish, 2, 1, 1, u"Regular verbs follow the pattern."});
+}
+
+}  // namespace
+
+bool WriteSampleGrammar(const std::string& root, uint8_t language, std::string* error) {
+  CGramV6 grammar;
+  grammar.setFolder(root + CourseFolderName(0) + kPathSeparator +
+                    NumberedName('r', kGrammarFolder));
+  const CourseTexts& texts = TextsFor(language);
+  AddPoints(grammar, texts);
+  AddSubpoints(grammar, texts);
+  AddBubbles(grammar, texts);
+  if (!CreateFolderPath(grammar.folder) || !grammar.save()) {
+    *error = "cannot write the grammar in " + grammar.folder;
+    return false;
+  }
+  return PinListedDates(grammar.folder, error);
+}
+
+}  // namespace lumora::sample
