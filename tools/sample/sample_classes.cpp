@@ -1,15 +1,11 @@
 #include "sample/sample_classes.h"
 
 #include <lumora/lexicon/classification.h>
-#include <lumora/platform/profile.h>
-#include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>
-#include <lumora/support/xcrc_file2.h>
-
-#include <sys/time.h>
 
 #include <cstdint>
-#include <ctime>
+
+#include "sample/sample_dates.h"
 
 namespace lumora::sample {
 namespace {
@@ -103,29 +99,6 @@ void FillCategories(SetTable<CatGramRecord>& table) {
   }
 }
 
-// The checksum list records each file's modification time. Pinning the times of the set files,
-// and their records with them, keeps the sample the same bytes from run to run.
-constexpr std::time_t kPinnedTime = 1700000000;
-
-bool PinDates(const std::string& folder) {
-  const auto entries = ListFolder(folder);
-  if (!entries) return false;
-  std::tm tm{};
-  localtime_r(&kPinnedTime, &tm);
-  char date[32];
-  std::strftime(date, sizeof date, "%d/%m/%Y %H:%M:%S", &tm);
-  const timeval times[2] = {{kPinnedTime, 0}, {kPinnedTime, 0}};
-  const std::string list = folder + xCRCFile2::kListName;
-  for (const FolderEntry& entry : *entries) {
-    if (entry.name == xCRCFile2::kListName) continue;
-    if (::utimes((folder + entry.name).c_str(), times) != 0 ||
-        !profile::WriteString(list, xCRCFile2::kListSection, "DATE_" + entry.name, date)) {
-      return false;
-    }
-  }
-  return true;
-}
-
 }  // namespace
 
 bool WriteSampleClassification(const std::string& common_local, std::string* error) {
@@ -140,11 +113,11 @@ bool WriteSampleClassification(const std::string& common_local, std::string* err
   Fill(classification.grammarPointCategories, kGrammarPointCategories);
   Fill(classification.verbTenses, kVerbTenses);
   Fill(classification.syntacticFunctions, kSyntacticFunctions);
-  if (!classification.save() || !PinDates(classification.folder)) {
+  if (!classification.save()) {
     *error = "cannot write the classification into " + classification.folder;
     return false;
   }
-  return true;
+  return PinListedDates(classification.folder, error);
 }
 
 }  // namespace lumora::sample
