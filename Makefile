@@ -1,7 +1,6 @@
 # Newcomer entry points: `make demo` and `make test`. Everything builds into build/.
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
-FUZZ_BUILD ?= build-fuzz
 FUZZ_SECONDS ?= 30
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 DEMO_DIR   ?= demo-content
@@ -24,8 +23,13 @@ test: build
 demo: build
 	./tools/demo.sh $(BUILD)/lumora $(DEMO_DIR)
 
+# The sanitizer build uses clang when the machine has it, so that the fuzz targets are built
+# from the same objects instead of a third build of the library.
+SAN_CXX    ?= $(shell command -v clang++ >/dev/null 2>&1 && echo clang++ || echo c++)
+
 $(ASAN_BUILD)/CMakeCache.txt:
-	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DLUMORA_SANITIZE=ON -DLUMORA_BENCH=OFF
+	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=$(SAN_CXX) \
+	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF
 
 asan-test: $(ASAN_BUILD)/CMakeCache.txt
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
@@ -35,11 +39,11 @@ bench: build
 	@for b in $(BUILD)/bench/*_bench; do python3 bench/ratios.py $$b; done
 
 # Each fuzz target runs for FUZZ_SECONDS on an empty corpus; needs clang.
-fuzz:
-	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ \
-	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF
-	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_targets
-	@for f in $(FUZZ_BUILD)/fuzz/*_fuzz; do \
+fuzz: $(ASAN_BUILD)/CMakeCache.txt
+	@grep -q 'CMAKE_CXX_COMPILER:.*clang' $(ASAN_BUILD)/CMakeCache.txt || \
+	  { echo "make fuzz needs $(ASAN_BUILD) configured with clang"; exit 1; }
+	cmake --build $(ASAN_BUILD) -j $(JOBS) --target fuzz_targets
+	@for f in $(ASAN_BUILD)/fuzz/*_fuzz; do \
 	  echo "fuzzing $$f for $(FUZZ_SECONDS) s"; \
 	  $$f -max_total_time=$(FUZZ_SECONDS) -max_len=4096 -rss_limit_mb=2048 > $$f.log 2>&1 \
 	    || { tail -n 40 $$f.log; exit 1; }; \
@@ -53,4 +57,4 @@ format-check:
 	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt
+	rm -rf $(BUILD) $(ASAN_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt

@@ -34,7 +34,7 @@ bool CGramV6::save() {
   return ForEachTable([this](std::u16string_view name, auto& table) {
     const auto version = static_cast<uint32_t>(formatVersion);
     return WriteSetFile(SetFilePath(folder, name), version,
-                        [&table, version](Archive& ar) { table.WriteRecords(ar, version); });
+                        [&](Archive& ar) { table.WriteRecords(ar, version); });
   });
 }
 
