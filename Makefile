@@ -9,8 +9,13 @@ DEMO_DIR   ?= demo-content
 
 all: build
 
+# ccache, when the machine has it, lets several checkouts of the tree share compiled objects.
+CCACHE     := $(shell command -v ccache 2>/dev/null)
+LAUNCHER   := $(if $(CCACHE),-DCMAKE_CXX_COMPILER_LAUNCHER=$(CCACHE))
+export CCACHE_BASEDIR := $(CURDIR)
+
 $(BUILD)/CMakeCache.txt:
-	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release $(LAUNCHER)
 
 configure: $(BUILD)/CMakeCache.txt
 
@@ -28,7 +33,7 @@ demo: build
 SAN_CXX    ?= $(shell command -v clang++ >/dev/null 2>&1 && echo clang++ || echo c++)
 
 $(ASAN_BUILD)/CMakeCache.txt:
-	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=$(SAN_CXX) \
+	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=$(SAN_CXX) $(LAUNCHER) \
 	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF
 
 asan-test: $(ASAN_BUILD)/CMakeCache.txt
