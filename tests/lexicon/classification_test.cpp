@@ -10,22 +10,17 @@
 
 #include "fixtures/archive_bytes.h"
 #include "fixtures/temp_dir.h"
+#include "lexicon/filled_lexicon.h"
 
 namespace lumora {
 namespace {
 
+using testing::AsString;
 using testing::Bytes;
 using testing::Concat;
+using testing::TextBytes;
 using testing::U16;
 using testing::U32;
-
-Bytes Text(std::u16string_view text) {
-  Bytes bytes = U32(static_cast<uint32_t>(text.size()));
-  for (char16_t unit : text) bytes = Concat({bytes, U16(unit)});
-  return bytes;
-}
-
-std::string AsString(const Bytes& bytes) { return std::string(bytes.begin(), bytes.end()); }
 
 TEST(ClassMatches, QueriesMatchTheirOwnBlockAtOrAboveThemselves) {
   struct Case {
@@ -107,14 +102,7 @@ class ClassificationFiles : public ::testing::Test {
  protected:
   // Writes one record per table through save; true when every table was saved.
   bool SaveOneOfEach() {
-    saved.SetFolder(dir.path());
-    saved.famSem.Insert({1, u"f", 1});
-    CatGramRecord category;
-    category.id = 2;
-    saved.catGram.Insert(category);
-    saved.grammarPointCategories.Insert({3, u"g", 3});
-    saved.verbTenses.Insert({4, u"v", 4});
-    saved.syntacticFunctions.Insert({5, u"s", 5});
+    testing::FillClassificationWithOneOfEach(saved, dir.path());
     return saved.save();
   }
 
@@ -141,9 +129,9 @@ TEST_F(ClassificationFiles, EachTableIsWrittenInItsRecordLayoutAndReadBack) {
        [](Classification& c) {
          c.famSem.Insert({0x01020304, u"Aé", 0xBEEF});
        },
-       1, Concat({U32(0x01020304), Text(u"Aé"), U16(0xBEEF)})},
+       1, Concat({U32(0x01020304), TextBytes(u"Aé"), U16(0xBEEF)})},
       {"t_CatGram.set", [&](Classification& c) { c.catGram.Insert(category); }, 1,
-       Concat({U32(10100), Text(u"N"), U16(7), empty_labels, Text(u"名")})},
+       Concat({U32(10100), TextBytes(u"N"), U16(7), empty_labels, TextBytes(u"名")})},
       {"t_GrammarPoint_Category.set",
        [](Classification& c) {
          c.grammarPointCategories.Insert({300, u"", 1});
@@ -154,12 +142,12 @@ TEST_F(ClassificationFiles, EachTableIsWrittenInItsRecordLayoutAndReadBack) {
          c.verbTenses.Insert({5, u"b", 2});
          c.verbTenses.Insert({2, u"a", 1});
        },
-       2, Concat({U32(2), Text(u"a"), U16(1), U32(5), Text(u"b"), U16(2)})},
+       2, Concat({U32(2), TextBytes(u"a"), U16(1), U32(5), TextBytes(u"b"), U16(2)})},
       {"t_Expression_SyntacticFunction.set",
        [](Classification& c) {
          c.syntacticFunctions.Insert({0xABCD, u"S", 2});
        },
-       1, Concat({U16(0xABCD), Text(u"S"), U16(2)})},
+       1, Concat({U16(0xABCD), TextBytes(u"S"), U16(2)})},
   };
   for (const Case& c : cases) {
     Classification classification;

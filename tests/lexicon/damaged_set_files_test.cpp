@@ -1,14 +1,17 @@
-// Every glossary table kind written, then read back cut short at every length and with every
+// Every set-file table kind written, then read back cut short at every length and with every
 // byte changed: each damaged copy must fail cleanly (the sanitizer build checks the "cleanly").
 #include <lumora/lexicon/glossary_records.h>
 #include <lumora/lexicon/indexed_set_file.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/support/folder_entries.h>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "fixtures/temp_dir.h"
+#include "lexicon/filled_lexicon.h"
 
 namespace lumora {
 namespace {
@@ -38,7 +41,7 @@ void ExpectDamagedCopiesFail(std::u16string_view name, std::initializer_list<Rec
   }
 }
 
-TEST(DamagedGlossaryFiles, EveryTableKindFailsCutOrChanged) {
+TEST(DamagedSetFiles, EveryTableKindFailsCutOrChanged) {
   ExpectDamagedCopiesFail<GloFNRecord>(
       u"t_Glo_FNs", {{1, 2, 3, 4, {5, 6}, {7}, 8, 9, 10}, {2, 0, 0, 0, {}, {}, 0, 0, 0}});
   ExpectDamagedCopiesFail<GloWritingRecord>(u"t_Glo_Writings", {{1, u"ab"}, {2, u""}});
@@ -60,7 +63,7 @@ TEST(DamagedGlossaryFiles, EveryTableKindFailsCutOrChanged) {
 
 // A damaged index and a damaged set file behind it: fetches answer false or a record, and
 // never read outside what the file holds.
-TEST(DamagedGlossaryFiles, FetchThroughDamagedIndexFailsCleanly) {
+TEST(DamagedSetFiles, FetchThroughDamagedIndexFailsCleanly) {
   testing::TempDir dir;
   SetTable<GloRecoRecord> recos;
   recos.Insert({1, 2, 3, u"a", u"b"});
@@ -77,6 +80,53 @@ TEST(DamagedGlossaryFiles, FetchThroughDamagedIndexFailsCleanly) {
     EXPECT_FALSE(FetchSetRecord(dir.path(), u"t_Glo_Reco1600", offsets, 3, record)) << length;
     EXPECT_EQ(record.fnId, 0);
   }
+}
+
+// Damages each set file of `dir` in turn, every cut and every changed byte, and expects `load`
+// to fail on each copy; the good file goes back before the next one is damaged.
+void ExpectFamilyLoadFailsOnEveryDamage(testing::TempDir& dir, const std::function<bool()>& load) {
+  ASSERT_TRUE(load());
+  std::vector<std::string> files;
+  for (const FolderEntry& entry : ListFolder(dir.path()).value_or(std::vector<FolderEntry>{})) {
+    if (entry.name.ends_with(".set")) files.push_back(entry.name);
+  }
+  ASSERT_FALSE(files.empty());
+  for (const std::string& file : files) {
+    const std::string good = dir.Read(file);
+    for (size_t length = 0; length < good.size(); ++length) {
+      dir.Write(file, good.substr(0, length));
+      EXPECT_FALSE(load()) << file << " cut to " << length;
+    }
+    for (size_t at = 0; at < good.size(); ++at) {
+      std::string changed = good;
+      changed[at] = static_cast<char>(changed[at] ^ 0x80);
+      dir.Write(file, changed);
+      EXPECT_FALSE(load()) << file << " changed at " << at;
+    }
+    dir.Write(file, good);
+  }
+}
+
+TEST(DamagedSetFiles, GrammarLoadFailsOnEveryDamagedTable) {
+  testing::TempDir dir;
+  CGramV6 saved = testing::GrammarWithOneOfEach();
+  saved.setFolder(dir.path());
+  ASSERT_TRUE(saved.save());
+  ExpectFamilyLoadFailsOnEveryDamage(dir, [&dir] {
+    CGramV6 loaded;
+    return loaded.load(dir.path());
+  });
+}
+
+TEST(DamagedSetFiles, ClassificationLoadFailsOnEveryDamagedTable) {
+  testing::TempDir dir;
+  Classification saved;
+  testing::FillClassificationWithOneOfEach(saved, dir.path());
+  ASSERT_TRUE(saved.save());
+  ExpectFamilyLoadFailsOnEveryDamage(dir, [&dir] {
+    Classification loaded;
+    return loaded.load(dir.path());
+  });
 }
 
 }  // namespace

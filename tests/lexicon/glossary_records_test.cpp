@@ -15,16 +15,10 @@ namespace {
 
 using testing::Bytes;
 using testing::Concat;
+using testing::TextBytes;
 using testing::U16;
 using testing::U32;
-
-Bytes U8(uint8_t v) { return {v}; }
-
-Bytes Text(std::u16string_view text) {
-  Bytes bytes = U32(static_cast<uint32_t>(text.size()));
-  for (char16_t unit : text) bytes = Concat({bytes, U16(unit)});
-  return bytes;
-}
+using testing::U8;
 
 // A byte list as stored: the marker 1, the count, the growth step, the bytes.
 Bytes ByteList(const Bytes& values, uint32_t step = 0) {
@@ -78,29 +72,31 @@ TEST(GlossaryRecords, EachTableStoresItsFieldsInFileOrder) {
        Concat({U16(0x0102), U16(7), U16(8), U8(9), U32(2), U32(1), U32(2), U32(0), U8(3), U8(4),
                U16(5)}),
        Reloaded<GloFNRecord>},
-      {"t_Glo_Writings", Stored(GloWritingRecord{12, u"ab"}), Concat({U16(12), Text(u"ab")}),
+      {"t_Glo_Writings", Stored(GloWritingRecord{12, u"ab"}), Concat({U16(12), TextBytes(u"ab")}),
        Reloaded<GloWritingRecord>},
       {"t_Glo_Links", Stored(GloLinkRecord{0x10000, 2, 3, 4, 5, 6}),
        Concat({U32(0x10000), U32(2), U16(3), U16(4), U16(5), U8(6)}), Reloaded<GloLinkRecord>},
       {"t_Glo_Cloud1600", Stored(GloCloudRecord{3, u""}), Concat({U16(3), U32(0)}),
        Reloaded<GloCloudRecord>},
       {"t_Glo_Sounds", Stored(Sound(6)),
-       Concat({U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"), Text(u""), Text(u"cc"),
+       Concat({U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"), TextBytes(u""), TextBytes(u"cc"),
                ByteList({1, 3}), ByteList({})}),
        Reloaded<GloSoundRecord>},
       {"t_Glo_Sounds schema 1", Stored(Sound(6), 1),
-       Concat({U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"), Text(u""), Text(u"cc")}),
+       Concat(
+           {U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"), TextBytes(u""), TextBytes(u"cc")}),
        Reloaded<GloSoundRecord, 1>},
       {"t_Glo_Reco1600", Stored(GloRecoRecord{5, 0x0304, 3, u"x", u"yz"}),
-       Concat({U16(5), U16(0x0304), U8(3), Text(u"x"), Text(u"yz")}), Reloaded<GloRecoRecord>},
+       Concat({U16(5), U16(0x0304), U8(3), TextBytes(u"x"), TextBytes(u"yz")}),
+       Reloaded<GloRecoRecord>},
       {"t_Glo_FNTranslations", Stored(GloFNTranslationRecord{7, 300, u"t"}),
-       Concat({U8(7), U16(300), Text(u"t")}), Reloaded<GloFNTranslationRecord>},
+       Concat({U8(7), U16(300), TextBytes(u"t")}), Reloaded<GloFNTranslationRecord>},
       {"t_Glo_Comments", Stored(GloCommentRecord{300, 7, u"c"}),
-       Concat({U16(300), U8(7), Text(u"c")}), Reloaded<GloCommentRecord>},
+       Concat({U16(300), U8(7), TextBytes(u"c")}), Reloaded<GloCommentRecord>},
       {"t_Glo_FNSorted", Stored(GloFNSortedRecord{1, 2}), Concat({U16(1), U16(2)}),
        Reloaded<GloFNSortedRecord>},
       {"t_Glo_FNLetter", Stored(GloFNLetterRecord{u"\u00c9", 4, 5, 6}),
-       Concat({Text(u"\u00c9"), U16(4), U16(5), U16(6)}), Reloaded<GloFNLetterRecord>},
+       Concat({TextBytes(u"\u00c9"), U16(4), U16(5), U16(6)}), Reloaded<GloFNLetterRecord>},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(c.stored, c.expected) << c.table;
@@ -133,16 +129,16 @@ TEST(GlossaryRecords, KeysOfSeveralPartsCompareTheFirstPartFirst) {
 
 TEST(GlossaryRecords, OldSoundsFileIsWrittenBackWithTheQualityLists) {
   testing::TempDir dir;
-  const Bytes old = Concat(
-      {U32(1), U32(1), U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"), Text(u""), Text(u"cc")});
+  const Bytes old = Concat({U32(1), U32(1), U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"),
+                            TextBytes(u""), TextBytes(u"cc")});
   dir.Write("t_Glo_Sounds.set", std::string(old.begin(), old.end()));
   SetTable<GloSoundRecord> sounds;
   uint32_t version = 0;
   ASSERT_TRUE(ReadSetTable(dir.path(), u"t_Glo_Sounds", SetFamily::kGlossary, sounds, &version));
   EXPECT_EQ(version, 1u);
   ASSERT_TRUE(WriteSetTable(dir.path(), u"t_Glo_Sounds", SetFamily::kGlossary, sounds));
-  const Bytes expected = Concat({U32(2), U32(1), U16(6), U8(4), U16(0x0102), U8(9), Text(u"a"),
-                                 Text(u""), Text(u"cc"), ByteList({}), ByteList({})});
+  const Bytes expected = Concat({U32(2), U32(1), U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"),
+                                 TextBytes(u""), TextBytes(u"cc"), ByteList({}), ByteList({})});
   EXPECT_EQ(dir.Read("t_Glo_Sounds.set"), std::string(expected.begin(), expected.end()));
 }
 

@@ -9,62 +9,43 @@
 
 #include "fixtures/archive_bytes.h"
 #include "fixtures/temp_dir.h"
+#include "lexicon/filled_lexicon.h"
 
 namespace lumora {
 namespace {
 
 using testing::Bytes;
 using testing::Concat;
+using testing::TextBytes;
 using testing::U16;
 using testing::U32;
+using testing::U8;
 
-Bytes U8(uint8_t v) { return {v}; }
-Bytes Text(std::u16string_view text) {
-  Bytes bytes = U32(static_cast<uint32_t>(text.size()));
-  for (char16_t unit : text) bytes = Concat({bytes, U16(unit)});
-  return bytes;
-}
 std::string File(const Bytes& record) {
   const Bytes all = Concat({U32(1), U32(1), record});
   return std::string(all.begin(), all.end());
 }
 
-// One record in every table, each field a distinct value so that a swapped or resized field
-// shows in the bytes.
-CGramV6 OneOfEach() {
-  CGramV6 g;
-  g.points.Insert({0x0102, 0x03, 1, u"Pt"});
-  g.titles.Insert({0x0203, 0x04, u"T"});
-  g.pictures.Insert({0x0304, 0x05, 0x06});
-  g.subpoints.Insert({0x01020304, 0x07, 0x05060708});
-  g.parts.Insert({0x0A0B0C0D, 1, 2, 3, 0x11121314, 0x21222324, 4, 5});
-  g.subpointTitles.Insert({0x31323334, 0x08, u"S"});
-  g.keywords.Insert({0x41424344, u"kw"});
-  g.links.Insert({0x51525354, 0x61626364, 0x71727374, 0x0809, 0x0A});
-  g.bubbles.Insert({0x0B, 0x0C0D, 0x0E, 0x0F, u""});
-  return g;
-}
-
 TEST(GrammarFile, EveryTableWritesItsRecordLayoutUnderItsName) {
   testing::TempDir dir;
-  CGramV6 g = OneOfEach();
+  CGramV6 g = testing::GrammarWithOneOfEach();
   g.setFolder(dir.path());
   ASSERT_TRUE(g.save());
   const struct {
     const char* file;
     Bytes record;
   } tables[] = {
-      {"t_Gr_Points.set", Concat({U16(0x0102), U8(3), U8(1), Text(u"Pt")})},
-      {"t_Gr_Titles.set", Concat({U16(0x0203), U8(4), Text(u"T")})},
+      {"t_Gr_Points.set", Concat({U16(0x0102), U8(3), U8(1), TextBytes(u"Pt")})},
+      {"t_Gr_Titles.set", Concat({U16(0x0203), U8(4), TextBytes(u"T")})},
       {"t_Gr_Pictures.set", Concat({U16(0x0304), U8(5), U8(6)})},
       {"t_Gr_Subpoints.set", Concat({U32(0x01020304), U8(7), U32(0x05060708)})},
       {"t_Gr_Parts.set", Concat({U32(0x0A0B0C0D), U8(1), U8(2), U8(3), U32(0x11121314),
                                  U32(0x21222324), U8(4), U8(5)})},
-      {"t_Gr_SubpointTitles.set", Concat({U32(0x31323334), U8(8), Text(u"S")})},
-      {"t_Gr_keywords.set", Concat({U32(0x41424344), Text(u"kw")})},
+      {"t_Gr_SubpointTitles.set", Concat({U32(0x31323334), U8(8), TextBytes(u"S")})},
+      {"t_Gr_keywords.set", Concat({U32(0x41424344), TextBytes(u"kw")})},
       {"t_Gr_Links.set",
        Concat({U32(0x51525354), U32(0x61626364), U32(0x71727374), U16(0x0809), U8(0x0A)})},
-      {"t_Gr_Bubbles.set", Concat({U8(0x0B), U16(0x0C0D), U8(0x0E), U8(0x0F), Text(u"")})},
+      {"t_Gr_Bubbles.set", Concat({U8(0x0B), U16(0x0C0D), U8(0x0E), U8(0x0F), TextBytes(u"")})},
   };
   for (const auto& table : tables)
     EXPECT_EQ(dir.Read(table.file), File(table.record)) << table.file;
@@ -72,12 +53,12 @@ TEST(GrammarFile, EveryTableWritesItsRecordLayoutUnderItsName) {
 
 TEST(GrammarFile, SavedGrammarLoadsBackWithAFlagByteReadAsOne) {
   testing::TempDir dir;
-  CGramV6 saved = OneOfEach();
+  CGramV6 saved = testing::GrammarWithOneOfEach();
   saved.setFolder(dir.path());
   ASSERT_TRUE(saved.save());
   // A damaged flag byte still means "set"; rewrite the file so its checksum stays unlisted.
   dir.Write("CRCFile.ini", "");
-  dir.Write("t_Gr_Points.set", File(Concat({U16(0x0102), U8(3), U8(7), Text(u"Pt")})));
+  dir.Write("t_Gr_Points.set", File(Concat({U16(0x0102), U8(3), U8(7), TextBytes(u"Pt")})));
 
   CGramV6 loaded;
   ASSERT_TRUE(loaded.load(dir.path().substr(0, dir.path().size() - 1)));
@@ -91,7 +72,7 @@ TEST(GrammarFile, SavedGrammarLoadsBackWithAFlagByteReadAsOne) {
 
 TEST(GrammarFile, LoadStopsAtTheFirstFailingTable) {
   testing::TempDir dir;
-  CGramV6 saved = OneOfEach();
+  CGramV6 saved = testing::GrammarWithOneOfEach();
   saved.setFolder(dir.path());
   ASSERT_TRUE(saved.save());
   // Version 2 is newer than any grammar this library reads.
@@ -119,7 +100,7 @@ TEST(GrammarFile, SaveStopsAtTheFirstTableItCannotWrite) {
   const ShareFileSettings saved_open = ShareFileRetrySettings();
   retry.shouldRetry = [](uint32_t, uint32_t) { return false; };
   ShareFileRetrySettings() = {1, 0, 0};
-  CGramV6 g = OneOfEach();
+  CGramV6 g = testing::GrammarWithOneOfEach();
   g.setFolder(dir.path());
   const bool ok = g.save();
   retry = saved_retry;

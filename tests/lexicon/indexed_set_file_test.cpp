@@ -13,13 +13,12 @@
 namespace lumora {
 namespace {
 
+using testing::AsString;
 using testing::Bytes;
 using testing::Concat;
 using testing::U32;
 
 constexpr uint32_t kNone = kNoRecordOffset;
-
-std::string AsString(const Bytes& bytes) { return std::string(bytes.begin(), bytes.end()); }
 
 Bytes Index(std::initializer_list<uint32_t> entries) {
   Bytes bytes;
@@ -31,7 +30,7 @@ GloSoundRecord Sound(uint16_t id, uint8_t status) {
   GloSoundRecord r;
   r.fnId = id;
   r.status = status;
-  r.text1 = u"word";
+  r.text1 = std::u16string(u"word", 4);
   r.qualitiesB.Add(id);
   return r;
 }

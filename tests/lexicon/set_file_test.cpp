@@ -1,9 +1,13 @@
 #include <lumora/lexicon/set_fields.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/platform/notify.h>
 #include <lumora/platform/profile.h>
+#include <lumora/support/share_file.h>
 #include <lumora/support/xcrc_file2.h>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 
@@ -13,6 +17,7 @@
 namespace lumora {
 namespace {
 
+using testing::AsString;
 using testing::Bytes;
 using testing::Concat;
 using testing::U16;
@@ -27,8 +32,6 @@ struct Word {
     IoText(ar, text);
   }
 };
-
-std::string AsString(const Bytes& bytes) { return std::string(bytes.begin(), bytes.end()); }
 
 Bytes WordBytes(uint16_t id, std::u16string_view text) {
   Bytes bytes = Concat({U16(id), U32(static_cast<uint32_t>(text.size()))});
@@ -147,6 +150,45 @@ TEST_F(SetFile, FailedSaveStopsWhenTheRetryRuleSaysSo) {
   EXPECT_FALSE(WriteSetTable(dir.path() + "missing/", u"t_Words", SetFamily::kGlossary, table));
   retry = saved;
   EXPECT_EQ(asked, 3u);
+}
+
+// A save that cannot write gives up after the retry rule and leaves the table as it was on disk:
+// the old bytes and the checksum recorded for them. Two ways to be refused: another reader
+// holding the file, and a folder without write permission (which root ignores).
+TEST_F(SetFile, RefusedSaveKeepsThePreviousFileAndItsChecksum) {
+  table.Insert({1, u"one"});
+  ASSERT_TRUE(WriteSetTable(dir.path(), u"t_Words", SetFamily::kGlossary, table));
+  const std::string old_bytes = dir.Read("t_Words.set");
+  const std::string old_checksum = Listed("t_Words.set");
+  table.Insert({2, u"two"});
+
+  SetSaveRetry& retry = SetSaveRetrySettings();
+  const SetSaveRetry saved_retry = retry;
+  const ShareFileSettings saved_open = ShareFileRetrySettings();
+  uint32_t attempts = 0;
+  retry = {[&attempts](uint32_t n, uint32_t) { return (attempts = n) < 2; }, 0};
+  ShareFileRetrySettings() = {1, 0, 0};
+  const NotifyHandler saved_notify = SetNotifyHandler([](const std::string&) {});
+  auto expect_refused = [&](const char* how) {
+    attempts = 0;
+    EXPECT_FALSE(WriteSetTable(dir.path(), u"t_Words", SetFamily::kGlossary, table)) << how;
+    EXPECT_EQ(attempts, 2u) << how;
+    EXPECT_EQ(dir.Read("t_Words.set"), old_bytes) << how;
+    EXPECT_EQ(Listed("t_Words.set"), old_checksum) << how;
+  };
+  {
+    ShareFile reader;
+    ASSERT_TRUE(reader.Open(Path(), open_flags::kRead | open_flags::kBinary));
+    expect_refused("file held by a reader");
+  }
+  if (::geteuid() != 0) {
+    ASSERT_EQ(::chmod(dir.path().c_str(), 0555), 0);
+    expect_refused("read-only folder");
+    ::chmod(dir.path().c_str(), 0755);
+  }
+  SetNotifyHandler(saved_notify);
+  retry = saved_retry;
+  ShareFileRetrySettings() = saved_open;
 }
 
 }  // namespace

@@ -63,6 +63,8 @@ class CGramV6 : public CGramBase {
   // Categories of the subpoints that have one; false when there are no subpoints.
   bool getCategories(std::vector<uint32_t>& categories, uint32_t firstId,
                      uint32_t secondId) const override;
+  // The subcategory and point searches answer true even when they find nothing: an empty
+  // result is an answer, not a failure.
   bool getSubcategories(uint32_t category, std::vector<uint32_t>& subcategories, uint32_t firstId,
                         uint32_t secondId) const override;
   // Points whose first subpoint has a level in [minLevel, maxLevel]; minLevel 0 takes every

@@ -11,7 +11,9 @@ void IoText(Archive& ar, std::u16string& text) {
   const uint32_t length = ar.ReadU32();
   ar.Require(uint64_t{length} * 2);
   text.resize(length);
-  for (char16_t& unit : text) unit = ar.ReadU16();
+  // One read for the whole text, then each unit decoded where it landed.
+  ar.Read(text.data(), size_t{length} * 2);
+  for (char16_t& unit : text) unit = DecodeU16(reinterpret_cast<const uint8_t*>(&unit));
 }
 
 void IoU32List(Archive& ar, std::vector<uint32_t>& values) {
@@ -23,7 +25,8 @@ void IoU32List(Archive& ar, std::vector<uint32_t>& values) {
   const uint32_t count = ar.ReadU32();
   ar.Require(uint64_t{count} * 4);
   values.resize(count);
-  for (uint32_t& v : values) v = ar.ReadU32();
+  ar.Read(values.data(), size_t{count} * 4);
+  for (uint32_t& v : values) v = DecodeU32(reinterpret_cast<const uint8_t*>(&v));
 }
 
 void IoFlag(Archive& ar, uint8_t& flag) {
