@@ -28,6 +28,7 @@ void OpenDiscipline(ProfileFile& ini, const std::string& root, uint32_t id) {
     return;
   }
   discipline.LoadLexicon(library.classification);
+  discipline.MakeDiagnosisData();
 }
 
 bool Open(const char* content_root, uint32_t filter) {
