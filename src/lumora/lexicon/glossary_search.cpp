@@ -5,6 +5,7 @@
 #include <lumora/support/accent_table.h>
 
 #include <algorithm>
+#include <array>
 
 namespace lumora {
 namespace {
@@ -38,23 +39,53 @@ struct LetterFilter {
   }
 };
 
+// Word and writing tables are usually numbered from 1 without gaps, so a record is first looked
+// for at the position its number gives; a search visits every word and this saves it a binary
+// search per table.
+template <typename Record>
+const Record* FindNumbered(const SetTable<Record>& table, uint16_t key) {
+  const std::vector<Record>& records = table.records();
+  if (key >= 1 && key <= records.size() && records[key - 1].Key() == key) return &records[key - 1];
+  return table.Find(key);
+}
+
 // Walks the alphabetical order and files every entry with a letter that `keep` accepts in the
 // bucket of its letter. A letter number beyond the letter records has no bucket.
 template <typename Keep>
 void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
   buckets.resize(glossary.letters.size());
   for (const GloFNSortedRecord& entry : glossary.sorted) {
-    const GloFNRecord* fn = glossary.fns.Find(entry.fnId);
+    const GloFNRecord* fn = FindNumbered(glossary.fns, entry.fnId);
     if (fn == nullptr || fn->kind != kEntryKind || fn->letterId == 0) continue;
     if (fn->letterId > buckets.size() || !keep(*fn)) continue;
     buckets[fn->letterId - 1].push_back(fn->fnId);
   }
 }
 
-// `text` in lower case without accents, into `plain` (reused so a search allocates once).
-void ToPlain(std::u16string_view text, std::u16string& plain) {
-  plain.assign(text);
-  for (char16_t& unit : plain) unit = AccentTable::LowerPlain(unit);
+// LowerPlain for the units below 256 as a table, so that comparing a word costs no calls.
+class PlainFolding {
+ public:
+  PlainFolding() {
+    for (char16_t unit = 0; unit < 256; ++unit) lower_[unit] = AccentTable::LowerPlain(unit);
+  }
+  char16_t operator()(char16_t unit) const { return unit < 256 ? lower_[unit] : unit; }
+
+ private:
+  std::array<char16_t, 256> lower_;
+};
+
+// Whether `plain_query` occurs in `text` once `text` is folded (at its start only when
+// `prefix_only`); the text is folded unit by unit as it is compared, never copied.
+bool HoldsPlain(const PlainFolding& fold, std::u16string_view text, std::u16string_view plain_query,
+                bool prefix_only) {
+  if (plain_query.size() > text.size()) return false;
+  const size_t last_start = prefix_only ? 0 : text.size() - plain_query.size();
+  for (size_t start = 0; start <= last_start; ++start) {
+    size_t k = 0;
+    while (k < plain_query.size() && fold(text[start + k]) == plain_query[k]) ++k;
+    if (k == plain_query.size()) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -89,15 +120,13 @@ bool CGloV6::findWords(WordBuckets& buckets, uint32_t, const std::u16string& que
   if (query.empty() || sorted.empty() || fns.empty() || writings.empty() || letters.empty()) {
     return false;
   }
-  std::u16string plain_query;
-  ToPlain(query, plain_query);
-  std::u16string plain;
+  static const PlainFolding fold;
+  std::u16string plain_query = query;
+  for (char16_t& unit : plain_query) unit = fold(unit);
   FillBuckets(*this, buckets, [&](const GloFNRecord& fn) {
-    const GloWritingRecord* writing = writings.Find(fn.writingId);
+    const GloWritingRecord* writing = FindNumbered(writings, fn.writingId);
     if (writing == nullptr || (needCode != 0 && !HasNeededCode(fn))) return false;
-    ToPlain(writing->writing, plain);
-    return prefixOnly ? plain.starts_with(plain_query)
-                      : plain.find(plain_query) != std::u16string::npos;
+    return HoldsPlain(fold, writing->writing, plain_query, prefixOnly);
   });
   return true;
 }
