@@ -48,7 +48,8 @@ class CGloV6 : public CGloBase {
   // a time when the table was read by index. Words 0 and 65535 never have one.
   //
   // From index version 2 on, the index alone answers: only words with usable records have an
-  // offset. Older indexes list every record, so the record itself is read.
+  // offset, and a table read whole, having no index, answers false. Older indexes list every
+  // record, so the record itself is read.
   bool hasSound(uint16_t fnId) const override;
   bool getSound(uint16_t fnId, GloSoundRecord& record) const override;
   bool hasReco(uint16_t fnId) const override;
