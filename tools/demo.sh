@@ -42,6 +42,12 @@ step "Rebuild the type-7 index from its resource files into a scratch folder" \
   'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'
 step "Discipline 1's grammar: one point with its titles, pictures, subpoints, keywords and bubbles" \
   'lumora grammar $dir -d 1 point 2'
+step "Glossary search: accents and case do not matter, words come by letter" \
+  'lumora glossary $dir -d 1 find e | head -12'
+step "The same search typed with an accent, at the start of the word only" \
+  'lumora glossary $dir -d 1 find É --prefix | head -12'
+step "One glossary word: its texts, translations, sound and links, sound path as a web path" \
+  'lumora glossary $dir -d 1 word 1 --path-kind url | head -20'
 step "Discipline 1's diagnosis data for user 3: the lessons and exercises its loads found" \
   'lumora diagnosis $dir -d 1 --user 3 | head -20'
 step "The internal log, installed for one command: an unreadable Content.ini is report 541" \

@@ -9,6 +9,7 @@
 
 #include <lumora/frame/discipline_info.h>
 #include <lumora/lexicon/classification.h>
+#include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/grammar.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/content_request.h>
@@ -68,6 +69,9 @@ LUMORA_EXPORT lumora::Classification* lmGetClassification();
 // The grammar of the request's discipline, or null; its mediaFolder is first set below the root
 // the request's path kind selects.
 LUMORA_EXPORT lumora::CGramV6* lmGetGrammar(const lumora::ContentRequest* request);
+// The glossary of the request's discipline, or null; its mediaTemplate is first set to the
+// sound file pattern below the URL or UNC root, or emptied for any other path kind.
+LUMORA_EXPORT lumora::CGloV6* lmGetGlossary(const lumora::ContentRequest* request);
 
 // Loads the diagnosis data of every discipline (disciplineId 0) or of one, for `user`. True
 // when every load succeeded: both loads of each discipline for 0, both loads of the discipline

@@ -1,0 +1,134 @@
+// The two searches that give words bucketed by letter: by letter with filters, and by text.
+// Both walk the alphabetical order, so each bucket lists its words alphabetically.
+#include <lumora/lexicon/class_match.h>
+#include <lumora/lexicon/glossary.h>
+#include <lumora/support/accent_table.h>
+
+#include <algorithm>
+#include <array>
+
+namespace lumora {
+namespace {
+
+constexpr uint8_t kEntryKind = 1;
+
+bool HasNeededCode(const GloFNRecord& fn) {
+  return std::any_of(fn.codes.begin(), fn.codes.end(),
+                     [](uint32_t code) { return code >= 50000 && code < 60000; });
+}
+
+bool HasMatchingClass(const GloFNRecord& fn, uint32_t classId) {
+  return std::any_of(fn.classIds.begin(), fn.classIds.end(),
+                     [classId](uint32_t candidate) { return classMatches(candidate, classId); });
+}
+
+struct LetterFilter {
+  uint32_t classId;
+  uint32_t needCode;
+  uint8_t minLevel;
+  uint8_t maxLevel;
+  uint16_t letterId;
+
+  bool Keeps(const GloFNRecord& fn) const {
+    if (minLevel != 0 && (fn.level < minLevel || fn.level > std::max(minLevel, maxLevel))) {
+      return false;
+    }
+    if (letterId != 0 && fn.letterId != letterId) return false;
+    if (needCode != 0 && !HasNeededCode(fn)) return false;
+    return classId == 0 || HasMatchingClass(fn, classId);
+  }
+};
+
+// Word and writing tables are usually numbered from 1 without gaps, so a record is first looked
+// for at the position its number gives; a search visits every word and this saves it a binary
+// search per table.
+template <typename Record>
+const Record* FindNumbered(const SetTable<Record>& table, uint16_t key) {
+  const std::vector<Record>& records = table.records();
+  if (key >= 1 && key <= records.size() && records[key - 1].Key() == key) return &records[key - 1];
+  return table.Find(key);
+}
+
+// Walks the alphabetical order and files every entry with a letter that `keep` accepts in the
+// bucket of its letter. A letter number beyond the letter records has no bucket.
+template <typename Keep>
+void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
+  buckets.resize(glossary.letters.size());
+  for (const GloFNSortedRecord& entry : glossary.sorted) {
+    const GloFNRecord* fn = FindNumbered(glossary.fns, entry.fnId);
+    if (fn == nullptr || fn->kind != kEntryKind || fn->letterId == 0) continue;
+    if (fn->letterId > buckets.size() || !keep(*fn)) continue;
+    buckets[fn->letterId - 1].push_back(fn->fnId);
+  }
+}
+
+// LowerPlain for the units below 256 as a table, so that comparing a word costs no calls.
+class PlainFolding {
+ public:
+  PlainFolding() {
+    for (char16_t unit = 0; unit < 256; ++unit) lower_[unit] = AccentTable::LowerPlain(unit);
+  }
+  char16_t operator()(char16_t unit) const { return unit < 256 ? lower_[unit] : unit; }
+
+ private:
+  std::array<char16_t, 256> lower_;
+};
+
+// Whether `plain_query` occurs in `text` once `text` is folded (at its start only when
+// `prefix_only`); the text is folded unit by unit as it is compared, never copied.
+bool HoldsPlain(const PlainFolding& fold, std::u16string_view text, std::u16string_view plain_query,
+                bool prefix_only) {
+  if (plain_query.size() > text.size()) return false;
+  const size_t last_start = prefix_only ? 0 : text.size() - plain_query.size();
+  for (size_t start = 0; start <= last_start; ++start) {
+    size_t k = 0;
+    while (k < plain_query.size() && fold(text[start + k]) == plain_query[k]) ++k;
+    if (k == plain_query.size()) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool CGloV6::getWordsByLetter(WordBuckets& buckets, uint32_t classId, uint32_t needCode,
+                              uint8_t minLevel, uint8_t maxLevel, uint16_t letterId) const {
+  buckets.clear();
+  if (sorted.empty() || fns.empty() || letters.empty()) return false;
+  const LetterFilter filter{classId, needCode, minLevel, maxLevel, letterId};
+  FillBuckets(*this, buckets, [&filter](const GloFNRecord& fn) { return filter.Keeps(fn); });
+  return true;
+}
+
+bool CGloV6::getLinkedWordsByLetter(WordBuckets& buckets, uint32_t firstId, uint32_t secondId,
+                                    uint32_t classId, uint32_t needCode, uint8_t minLevel,
+                                    uint8_t maxLevel, uint16_t letterId) const {
+  buckets.clear();
+  if (sorted.empty() || fns.empty() || letters.empty()) return false;
+  std::vector<GloLinkRecord> first_links;
+  if (!getLinks(firstId, first_links) || first_links.empty()) return false;
+  const std::vector<uint16_t> linked = LinkedWords(firstId, secondId);
+  const LetterFilter filter{classId, needCode, minLevel, maxLevel, letterId};
+  FillBuckets(*this, buckets, [&](const GloFNRecord& fn) {
+    return std::binary_search(linked.begin(), linked.end(), fn.fnId) && filter.Keeps(fn);
+  });
+  return true;
+}
+
+bool CGloV6::findWords(WordBuckets& buckets, uint32_t, const std::u16string& query, uint32_t,
+                       uint32_t needCode, bool prefixOnly) const {
+  buckets.clear();
+  if (query.empty() || sorted.empty() || fns.empty() || writings.empty() || letters.empty()) {
+    return false;
+  }
+  static const PlainFolding fold;
+  std::u16string plain_query = query;
+  for (char16_t& unit : plain_query) unit = fold(unit);
+  FillBuckets(*this, buckets, [&](const GloFNRecord& fn) {
+    const GloWritingRecord* writing = FindNumbered(writings, fn.writingId);
+    if (writing == nullptr || (needCode != 0 && !HasNeededCode(fn))) return false;
+    return HoldsPlain(fold, writing->writing, plain_query, prefixOnly);
+  });
+  return true;
+}
+
+}  // namespace lumora

@@ -1,0 +1,99 @@
+// Word lists by letter section: the text search, the filtered letter search and the letters.
+#include <lumora/support/utf8.h>
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
+
+#include "commands.h"
+#include "content_args.h"
+#include "glossary_print.h"
+
+namespace lumora::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// The letters with words, each with its words in alphabetical order.
+void PrintBuckets(const CGloV6& glossary, const WordBuckets& buckets, bool json) {
+  Json rows = Json::array();
+  for (size_t i = 0; i < buckets.size(); ++i) {
+    if (buckets[i].empty()) continue;
+    const auto letterId = static_cast<uint16_t>(i + 1);
+    GloFNLetterRecord letter;
+    glossary.getLetter(letterId, letter);
+    Json words = Json::array();
+    for (uint16_t fnId : buckets[i]) {
+      words.push_back({{"fnId", fnId}, {"writing", Utf16ToUtf8(glossary.getWritingText(fnId))}});
+    }
+    rows.push_back({{"letterId", letterId},
+                    {"letter", Utf16ToUtf8(letter.letter)},
+                    {"words", std::move(words)}});
+  }
+  if (json) {
+    std::cout << rows.dump(2) << '\n';
+    return;
+  }
+  for (const Json& row : rows) {
+    std::cout << row["letter"].get<std::string>() << '\n';
+    for (const Json& word : row["words"]) {
+      std::cout << "  " << word["fnId"] << "  " << word["writing"].get<std::string>() << '\n';
+    }
+  }
+}
+
+// "MIN" is MIN and above; "MIN:MAX" as given.
+void ParseLevels(const std::string& text, uint8_t& min_level, uint8_t& max_level) {
+  if (text.empty()) return;
+  const size_t colon = text.find(':');
+  const uint32_t min = ParseNumber(text.substr(0, colon), "level");
+  const uint32_t max =
+      colon == std::string::npos ? 255 : ParseNumber(text.substr(colon + 1), "level");
+  if (min > 255 || max > 255) throw CommandFailure("levels go from 0 to 255: " + text);
+  min_level = static_cast<uint8_t>(min);
+  max_level = static_cast<uint8_t>(max);
+}
+
+}  // namespace
+
+void PrintFoundWords(const CGloV6& glossary, const GlossaryOptions& options) {
+  WordBuckets buckets;
+  glossary.findWords(buckets, 0, Utf8ToUtf16(options.query), 0, options.needCode ? 1 : 0,
+                     options.prefix);
+  PrintBuckets(glossary, buckets, options.json);
+}
+
+void PrintWordsByLetter(const CGloV6& glossary, const GlossaryOptions& options) {
+  uint8_t min_level = 0;
+  uint8_t max_level = 0;
+  ParseLevels(options.levels, min_level, max_level);
+  if (options.letter > 0xFFFF) throw CommandFailure("no such letter section");
+  const auto letterId = static_cast<uint16_t>(options.letter);
+  const uint32_t need_code = options.needCode ? 1 : 0;
+  WordBuckets buckets;
+  if (options.linked.empty()) {
+    glossary.getWordsByLetter(buckets, options.classId, need_code, min_level, max_level, letterId);
+  } else {
+    const size_t comma = options.linked.find(',');
+    const uint32_t first = ParseNumber(options.linked.substr(0, comma), "linked word");
+    const uint32_t second = comma == std::string::npos
+                                ? 0
+                                : ParseNumber(options.linked.substr(comma + 1), "linked word");
+    glossary.getLinkedWordsByLetter(buckets, first, second, options.classId, need_code, min_level,
+                                    max_level, letterId);
+  }
+  PrintBuckets(glossary, buckets, options.json);
+}
+
+void PrintLetters(const CGloV6& glossary, const GlossaryOptions& options) {
+  std::vector<GloFNLetterRecord> letters;
+  glossary.getLetters(letters);
+  Json rows = Json::array();
+  for (const GloFNLetterRecord& letter : letters) {
+    rows.push_back({{"letterId", letter.letterId}, {"letter", Utf16ToUtf8(letter.letter)}});
+    if (!options.json) std::cout << letter.letterId << "  " << Utf16ToUtf8(letter.letter) << '\n';
+  }
+  if (options.json) std::cout << rows.dump(2) << '\n';
+}
+
+}  // namespace lumora::cli
