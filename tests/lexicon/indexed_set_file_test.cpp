@@ -30,7 +30,7 @@ GloSoundRecord Sound(uint16_t id, uint8_t status) {
   GloSoundRecord r;
   r.fnId = id;
   r.status = status;
-  r.text1 = std::u16string(u"word", 4);
+  r.text1 = u"word";
   r.qualitiesB.Add(id);
   return r;
 }

@@ -58,10 +58,6 @@ void Archive::Require(uint64_t n) {
   if (Available() < n) throw ArchiveError(ArchiveError::Kind::kEndOfFile, "stored count too large");
 }
 
-void Archive::Io(uint8_t& v) { IsStoring() ? WriteU8(v) : void(v = ReadU8()); }
-void Archive::Io(uint16_t& v) { IsStoring() ? WriteU16(v) : void(v = ReadU16()); }
-void Archive::Io(uint32_t& v) { IsStoring() ? WriteU32(v) : void(v = ReadU32()); }
-
 void Archive::IoBool(bool& v) {
   if (IsStoring()) {
     WriteU8(v ? 1 : 0);

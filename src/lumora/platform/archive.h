@@ -95,10 +95,10 @@ class Archive {
     Write(b, 4);
   }
 
-  // Stores or loads one value, whichever the mode is.
-  void Io(uint8_t& v);
-  void Io(uint16_t& v);
-  void Io(uint32_t& v);
+  // Stores or loads one value, whichever the mode is. Inline: records call them once per field.
+  void Io(uint8_t& v) { IsStoring() ? WriteU8(v) : void(v = ReadU8()); }
+  void Io(uint16_t& v) { IsStoring() ? WriteU16(v) : void(v = ReadU16()); }
+  void Io(uint32_t& v) { IsStoring() ? WriteU32(v) : void(v = ReadU32()); }
   // A bool kept as one byte: written as 1 or 0, read as true only when the byte is 1.
   void IoBool(bool& v);
 
