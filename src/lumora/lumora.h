@@ -10,6 +10,7 @@
 #include <lumora/frame/discipline_info.h>
 #include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/grammar.h>
+#include <lumora/packages/package_records.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/exercise_resource.h>
@@ -42,7 +43,12 @@ extern "C" {
 // identifier disciplineFilter unless it is 0). A second open without a close registers the
 // disciplines again behind the first ones. True when at least one discipline is registered.
 LUMORA_EXPORT bool lmOpen(const char* contentRoot, uint32_t disciplineFilter);
-// Releases every discipline and empties the classification; the common roots stay.
+// lmOpen, then one package database connection per registered discipline (its data folder's
+// Content.mdb, which must exist). False when the open fails or at the first database that
+// does not open; the disciplines before it keep their connections.
+LUMORA_EXPORT bool lmOpen_Database(const char* contentRoot, uint32_t disciplineFilter);
+// Closes every database, releases every discipline and empties the classification; the common
+// roots stay.
 LUMORA_EXPORT void lmClose();
 
 // Fills `list` (emptied first) with one record per configured section, whatever its Type,
@@ -66,6 +72,13 @@ LUMORA_EXPORT lumora::Classification* lmGetClassification();
 // The grammar of the request's discipline, or null; its mediaFolder is first set below the root
 // the request's path kind selects.
 LUMORA_EXPORT lumora::CGramV6* lmGetGrammar(const lumora::ContentRequest* request);
+
+// Append the rows of the discipline's t_Packages (keyed by package identifier) or
+// t_Translations to the caller's list, without emptying it. False, with nothing appended, for
+// an unknown discipline, one opened without databases, or a table with no row; false too
+// when a row holds a value that cannot be read (a NULL number).
+LUMORA_EXPORT bool lmGetPackages(uint32_t disciplineId, lumora::PackageList* list);
+LUMORA_EXPORT bool lmGetPackageTranslations(uint32_t disciplineId, lumora::TranslationList* list);
 
 }  // extern "C"
 
