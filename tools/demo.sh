@@ -42,6 +42,9 @@ step "Rebuild the type-7 index from its resource files into a scratch folder" \
   'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'
 step "Discipline 1's grammar: one point with its titles, pictures, subpoints, keywords and bubbles" \
   'lumora grammar $dir -d 1 point 2'
+step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
+  'lumora packages $dir -d 1'
+step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'
 step "What a context code names" 'lumora label 0xA4020500'
 step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'
