@@ -11,7 +11,7 @@ step() {
   eval "${2//lumora /\"\$lumora\" }"
 }
 
-rm -rf "$dir" "$dir-rebuilt"
+rm -rf "$dir" "$dir-rebuilt" "$dir-logs"
 step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
@@ -45,6 +45,10 @@ step "Discipline 1's grammar: one point with its titles, pictures, subpoints, ke
 step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
   'lumora packages $dir -d 1'
 step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'
+step "Discipline 1's diagnosis data for user 3: the lessons and exercises its loads found" \
+  'lumora diagnosis $dir -d 1 --user 3 | head -20'
+step "The internal log, installed for one command: an unreadable Content.ini is report 541" \
+  'lumora --log-folder $dir-logs disciplines $dir-missing || cat $dir-logs/*.log'
 step "What a context code names" 'lumora label 0xA4020500'
 step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'

@@ -17,6 +17,8 @@
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/resource_index.h>
 
+#include <diagnosis/diagnosis.h>
+
 #include <cstdint>
 #include <string>
 
@@ -79,6 +81,17 @@ LUMORA_EXPORT lumora::CGramV6* lmGetGrammar(const lumora::ContentRequest* reques
 // when a row holds a value that cannot be read (a NULL number).
 LUMORA_EXPORT bool lmGetPackages(uint32_t disciplineId, lumora::PackageList* list);
 LUMORA_EXPORT bool lmGetPackageTranslations(uint32_t disciplineId, lumora::TranslationList* list);
+
+// Loads the diagnosis data of every discipline (disciplineId 0) or of one, for `user`. True
+// when every load succeeded: both loads of each discipline for 0, both loads of the discipline
+// otherwise. With checkOnly nothing is loaded and the first matching discipline's lessons answer
+// whether they hold a load for `user`.
+LUMORA_EXPORT bool lmOpenDiagData(uint32_t disciplineId, uint8_t user, bool checkOnly);
+// Empties every discipline's diagnosis objects, which stay loadable. Always true.
+LUMORA_EXPORT bool lmCloseDiagData();
+// The diagnosis objects of the request's discipline, or null; valid until lmClose.
+LUMORA_EXPORT CLessonsData* lmGetDiagLessonsData(const lumora::ContentRequest* request);
+LUMORA_EXPORT CTestableData* lmGetDiagTestableData(const lumora::ContentRequest* request);
 
 }  // extern "C"
 

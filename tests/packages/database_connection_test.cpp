@@ -2,6 +2,7 @@
 // a caught error is recorded.
 #include <lumora/packages/database_connection.h>
 #include <lumora/platform/com_apartment.h>
+#include <lumora/support/internal_log.h>
 
 #include <gtest/gtest.h>
 
@@ -89,7 +90,11 @@ TEST_F(DatabaseConnectionTest, EmptyResultIsNullAndLeavesNoHolder) {
   EXPECT_TRUE(db.openRecordsets.empty());
 }
 
-TEST_F(DatabaseConnectionTest, ClosedConnectionRefusesEveryOperation) {
+TEST_F(DatabaseConnectionTest, ClosedConnectionRefusesEveryOperationAndLogsIt) {
+  const InternalLogSettings saved = LogSettings();
+  LogSettings().clock = [] { return std::time_t{1016100000}; };
+  LogSettings().defaultFolder = dir.path();
+  InstallLog(dir.path() + "logs", 1);
   DatabaseConnection db;
   EXPECT_FALSE(Run(db, u"CREATE TABLE t (a INTEGER)"));
   EXPECT_EQ(db.lastError, DatabaseConnection::kNotOpen);
@@ -100,6 +105,15 @@ TEST_F(DatabaseConnectionTest, ClosedConnectionRefusesEveryOperation) {
   EXPECT_FALSE(db.ListTables());
   EXPECT_EQ(db.lastError, DatabaseConnection::kNotOpen);
   EXPECT_TRUE(db.Close());
+  RemoveLog();
+  LogSettings() = saved;
+
+  const std::filesystem::directory_iterator logs(dir.path() + "logs");
+  ASSERT_NE(logs, std::filesystem::directory_iterator());
+  EXPECT_EQ(dir.Read("logs/" + logs->path().filename().string()),
+            "1016100000 0 200004 2=887 1=0 \r\n"
+            "1016100000 0 200004 2=804 1=0 \r\n"
+            "1016100000 0 200004 2=844 1=0 \r\n");
 }
 
 TEST_F(DatabaseConnectionTest, KeyViolationIsRecordedWithItsTexts) {

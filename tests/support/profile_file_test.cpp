@@ -1,6 +1,8 @@
+#include <lumora/support/internal_log.h>
 #include <lumora/support/profile_file.h>
 
 #include <climits>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
@@ -197,6 +199,22 @@ TEST_F(ProfileFileTest, UnreadableFileGivesFalseAndNoLines) {
   EXPECT_FALSE(file.FindSection("S"));
   EXPECT_EQ(file.GetString("A"), "");
   EXPECT_FALSE(file.Load(dir_.path()));
+}
+
+TEST_F(ProfileFileTest, UnreadableFileIsReportedToAnInstalledLog) {
+  const InternalLogSettings saved = LogSettings();
+  LogSettings().clock = [] { return std::time_t{1016100000}; };
+  LogSettings().defaultFolder = dir_.path();
+  InstallLog(dir_.path() + "logs", 1);
+  ProfileFile file;
+  EXPECT_FALSE(file.Load(dir_.path() + "missing.ini"));
+  RemoveLog();
+  LogSettings() = saved;
+
+  const std::filesystem::directory_iterator logs(dir_.path() + "logs");
+  ASSERT_NE(logs, std::filesystem::directory_iterator());
+  const std::string line = dir_.Read("logs/" + logs->path().filename().string());
+  EXPECT_EQ(line, "1016100000 0 200004 2=541 3=\"No such file or directory\" 1=0 \r\n");
 }
 
 }  // namespace

@@ -3,6 +3,11 @@
 
 namespace lumora {
 
+Discipline::~Discipline() {
+  if (lessons) lessons = CDiagnosisInt::DeleteLessonsData(lessons);
+  if (testable) testable = CDiagnosisInt::DeleteTestableData(testable);
+}
+
 void Discipline::Open(ProfileFile& ini, const std::string& content_root,
                       const std::string& common_local, const std::string& folder) {
   ReadTypeAndParam(ini, info);
@@ -24,6 +29,11 @@ void Discipline::LoadLexicon(Classification& classification) {
   if (glossary.classification == nullptr) glossary.classification = &classification;
   glossary.language = static_cast<uint8_t>(info.Param);
   grammar.load(LexiconFolder(localRoot, 1002));
+}
+
+void Discipline::MakeDiagnosisData() {
+  lessons = CDiagnosisInt::NewLessonsData();
+  testable = CDiagnosisInt::NewTestableData();
 }
 
 }  // namespace lumora

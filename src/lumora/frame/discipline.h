@@ -13,19 +13,21 @@
 #include <lumora/resources/type2000_index.h>
 #include <lumora/support/profile_file.h>
 
+#include <diagnosis/diagnosis.h>
+
 #include <memory>
 #include <string>
 
 namespace lumora {
 
 class Classification;
-// Made by the diagnosis bridge, which is not part of the library yet: the pointers stay null
-// and only hold their places in the layout.
-class CLessonsData;
-class CTestableData;
 
 class Discipline : public Object {
  public:
+  Discipline() = default;
+  // Hands the diagnosis objects back to the diagnosis library first, keeping what it gives in
+  // their place; the members then go in reverse declaration order.
+  ~Discipline() override;
   const char* ClassName() const override { return "Discipline"; }
 
   // The part of opening that every configured section gets, with `ini` in the discipline's
@@ -36,6 +38,9 @@ class Discipline : public Object {
   // The rest, for a discipline that stays open: glossary and grammar from course 0 below the
   // local root, the glossary pointed at `classification` and given the language of Param.
   void LoadLexicon(Classification& classification);
+  // The empty lessons and testable objects of the diagnosis library, loaded on the host's
+  // request.
+  void MakeDiagnosisData();
 
   // Made by the open with databases; closed and released by the close before the discipline
   // itself goes.
@@ -51,8 +56,8 @@ class Discipline : public Object {
   // Released by the close (or the drop of a discipline that is not opened) before the
   // discipline itself goes.
   std::unique_ptr<ResourceIndex> resourceIndex;
-  CLessonsData* lessons = nullptr;
-  CTestableData* testable = nullptr;
+  ::CLessonsData* lessons = nullptr;
+  ::CTestableData* testable = nullptr;
 };
 
 }  // namespace lumora

@@ -35,6 +35,7 @@ void OpenDiscipline(ProfileFile& ini, const std::string& root, uint32_t id) {
     return;
   }
   discipline.LoadLexicon(library.classification);
+  discipline.MakeDiagnosisData();
 }
 
 bool Open(const char* content_root, uint32_t filter) {
@@ -64,8 +65,8 @@ void Close() {
   LibraryState& library = Library();
   library.classification.Clear();
   for (uint32_t i = 0; i < library.registry.size(); ++i) {
-    if (Discipline* discipline = library.registry.ObjectAt(i))
-      ReleaseConnectionAndIndex(*discipline);
+    Discipline* discipline = library.registry.ObjectAt(i);
+    if (discipline != nullptr) ReleaseConnectionAndIndex(*discipline);
   }
   library.registry.Clear();
   ComUninitialize();

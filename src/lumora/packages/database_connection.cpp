@@ -1,10 +1,24 @@
 #include <lumora/packages/database_connection.h>
+#include <lumora/support/internal_log.h>
 
 #include <algorithm>
 #include <new>
 
 namespace lumora {
 namespace {
+
+// Internal-log codes of the operations, one per operation and failure.
+constexpr int32_t kLogOpenFailed = 795;     // setting the mode or opening
+constexpr int32_t kLogConnectFailed = 796;  // making the connection object, or anything else
+constexpr int32_t kLogNoHolder = 801;       // no memory for a record-set holder
+constexpr int32_t kLogSelectFailed = 802;
+constexpr int32_t kLogSelectClosed = 804;
+constexpr int32_t kLogForeignHolder = 814;  // a holder this connection did not hand out
+constexpr int32_t kLogListFailed = 843;
+constexpr int32_t kLogListClosed = 844;
+constexpr int32_t kLogExecuteFailed = 885;
+constexpr int32_t kLogExecuteClosed = 887;
+constexpr int32_t kLogCloseFailed = 988;
 
 constexpr char16_t kIdentifierTable[] = u"t_Identifiers";
 // Row 0 of the identifier table carries the schema version of the package tables.
@@ -42,6 +56,7 @@ bool DatabaseConnection::Open(const std::string& connectionString, const std::st
     return true;
   } catch (...) {
     lastError = kDatabaseError;
+    ReportCodeText(kLogConnectFailed, "Erreur OpenDataBase()!");
     return false;
   }
 }
@@ -53,7 +68,7 @@ bool DatabaseConnection::Connect(const std::string& connectionString, const std:
   try {
     connection = std::make_unique<ado::Connection>();
   } catch (const ado::Error& error) {
-    ReportError(error, 796);
+    ReportError(error, kLogConnectFailed);
     return false;
   }
   try {
@@ -62,7 +77,7 @@ bool DatabaseConnection::Connect(const std::string& connectionString, const std:
     connection->Open(connectionString, user, password, ado::kOptionUnspecified);
   } catch (const ado::Error& error) {
     lastError = kDatabaseError;
-    ReportError(error, 795);
+    ReportError(error, kLogOpenFailed);
     return false;
   }
   return true;
@@ -86,7 +101,7 @@ bool DatabaseConnection::Close() {
       connection->Close();
     }
   } catch (const ado::Error& error) {
-    ReportError(error, 988);
+    ReportError(error, kLogCloseFailed);
   }
   connection.reset();
   isOpen = 0;
@@ -95,6 +110,7 @@ bool DatabaseConnection::Close() {
 
 bool DatabaseConnection::Execute(const WideText& sql) {
   if (isOpen == 0) {
+    ReportCode(kLogExecuteClosed);
     lastError = kNotOpen;
     return false;
   }
@@ -102,7 +118,7 @@ bool DatabaseConnection::Execute(const WideText& sql) {
     connection->Execute(sql.view(), ado::kExecuteNoRecords);
   } catch (const ado::Error& error) {
     lastError = kDatabaseError;
-    ReportError(error, 885);
+    ReportError(error, kLogExecuteFailed);
     return false;
   }
   return true;
@@ -111,11 +127,13 @@ bool DatabaseConnection::Execute(const WideText& sql) {
 RecordsetHolder* DatabaseConnection::OpenRecordset(const WideText& sql) {
   lastError = kSuccess;
   if (isOpen == 0) {
+    ReportCode(kLogSelectClosed);
     lastError = kNotOpen;
     return nullptr;
   }
   std::unique_ptr<RecordsetHolder> owned(new (std::nothrow) RecordsetHolder);
   if (owned == nullptr) {
+    ReportCode(kLogNoHolder);
     lastError = kNoMemory;
     return nullptr;
   }
@@ -132,7 +150,7 @@ RecordsetHolder* DatabaseConnection::OpenRecordset(const WideText& sql) {
     return holder;
   } catch (const ado::Error& error) {
     lastError = kDatabaseError;
-    ReportError(error, 802);
+    ReportError(error, kLogSelectFailed);
   }
   // A holder whose record set did not open is never handed out, so nobody could give it
   // back: it goes now rather than waiting for Close.
@@ -145,6 +163,7 @@ void DatabaseConnection::CloseRecordset(RecordsetHolder* holder) {
   const auto it = std::find_if(openRecordsets.begin(), openRecordsets.end(),
                                [holder](const auto& h) { return h.get() == holder; });
   if (it == openRecordsets.end()) {
+    ReportCode(kLogForeignHolder);
     lastError = kNoRow;
     return;
   }
@@ -155,6 +174,7 @@ void DatabaseConnection::CloseRecordset(RecordsetHolder* holder) {
 bool DatabaseConnection::ListTables() {
   lastError = kSuccess;
   if (isOpen == 0) {
+    ReportCode(kLogListClosed);
     lastError = kNotOpen;
     return false;
   }
@@ -168,7 +188,7 @@ bool DatabaseConnection::ListTables() {
     }
   } catch (const ado::Error& error) {
     lastError = kDatabaseError;
-    ReportError(error, 843);
+    ReportError(error, kLogListFailed);
     return false;
   }
   return true;

@@ -1,6 +1,7 @@
 // How a caught database error is recorded: its texts in errorText, the code number of an OLE DB
 // HRESULT in errorCode, and an internal-log entry.
 #include <lumora/packages/database_connection.h>
+#include <lumora/support/internal_log.h>
 
 #include <cstdio>
 
@@ -31,10 +32,10 @@ std::string SystemMessage(const ado::Error& error) {
 }  // namespace
 
 void DatabaseConnection::ReportError(const ado::Error& error, int32_t code) {
-  (void)code;
   errorText =
       "[" + error.source() + "] [" + error.description() + "] {" + SystemMessage(error) + "}";
   errorCode = DispatchCode(error.hr());
+  ReportCodeText(code, errorText);
 }
 
 }  // namespace lumora

@@ -2,8 +2,10 @@
 
 #include <lumora/platform/ascii_text.h>
 #include <lumora/platform/file.h>
+#include <lumora/support/internal_log.h>
 
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string_view>
 
@@ -14,6 +16,8 @@ namespace {
 // so a longer line becomes several lines.
 constexpr size_t kPieceChars = 5118;
 constexpr std::string_view kTrimmed = " \t\r\n";
+// The internal log's number for a configuration file that cannot be opened or read.
+constexpr int32_t kUnreadableProfileCode = 541;
 
 bool ReadAll(File& file, std::string* bytes) {
   char buffer[65536];
@@ -69,6 +73,7 @@ bool ProfileFile::Load(const std::string& path) {
   std::string bytes;
   if (!file.Open(path, open_flags::kRead | open_flags::kShareDenyNone | open_flags::kText) ||
       !ReadAll(file, &bytes)) {
+    ReportCodeText(kUnreadableProfileCode, std::strerror(file.LastError()));
     lineCount = 0;
     return false;
   }

@@ -1,0 +1,27 @@
+// --log-folder installs the internal log for one command, so that an unreadable configuration
+// file leaves its report behind.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "fixtures/run_cli.h"
+#include "fixtures/temp_dir.h"
+
+namespace lumora::testing {
+namespace {
+
+TEST(LogFolderCli, UnreadableContentIniIsReportedInTheLogFolder) {
+  TempDir dir;
+  const std::string logs = dir.path() + "logs";
+  CliResult result = RunCli("--log-folder '" + logs + "' disciplines '" + dir.path() + "'");
+  EXPECT_NE(result.exit_code, 0);
+
+  std::filesystem::directory_iterator files(logs);
+  ASSERT_NE(files, std::filesystem::directory_iterator());
+  const std::string name = files->path().filename().string();
+  EXPECT_EQ(name.size(), std::string("~YYMMDD.log").size());
+  EXPECT_NE(dir.Read("logs/" + name).find(" 0 200004 2=541 3="), std::string::npos);
+}
+
+}  // namespace
+}  // namespace lumora::testing
