@@ -48,6 +48,9 @@ step "The same search typed with an accent, at the start of the word only" \
   'lumora glossary $dir -d 1 find É --prefix | head -12'
 step "One glossary word: its texts, translations, sound and links, sound path as a web path" \
   'lumora glossary $dir -d 1 word 1 --path-kind url | head -20'
+step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
+  'lumora packages $dir -d 1'
+step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'
 step "Discipline 1's diagnosis data for user 3: the lessons and exercises its loads found" \
   'lumora diagnosis $dir -d 1 --user 3 | head -20'
 step "The internal log, installed for one command: an unreadable Content.ini is report 541" \

@@ -11,6 +11,7 @@
 #include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/grammar.h>
+#include <lumora/packages/package_records.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/exercise_resource.h>
@@ -45,7 +46,12 @@ extern "C" {
 // identifier disciplineFilter unless it is 0). A second open without a close registers the
 // disciplines again behind the first ones. True when at least one discipline is registered.
 LUMORA_EXPORT bool lmOpen(const char* contentRoot, uint32_t disciplineFilter);
-// Releases every discipline and empties the classification; the common roots stay.
+// lmOpen, then one package database connection per registered discipline (its data folder's
+// Content.mdb, which must exist). False when the open fails or at the first database that
+// does not open; the disciplines before it keep their connections.
+LUMORA_EXPORT bool lmOpen_Database(const char* contentRoot, uint32_t disciplineFilter);
+// Closes every database, releases every discipline and empties the classification; the common
+// roots stay.
 LUMORA_EXPORT void lmClose();
 
 // Fills `list` (emptied first) with one record per configured section, whatever its Type,
@@ -72,6 +78,13 @@ LUMORA_EXPORT lumora::CGramV6* lmGetGrammar(const lumora::ContentRequest* reques
 // The glossary of the request's discipline, or null; its mediaTemplate is first set to the
 // sound file pattern below the URL or UNC root, or emptied for any other path kind.
 LUMORA_EXPORT lumora::CGloV6* lmGetGlossary(const lumora::ContentRequest* request);
+
+// Append the rows of the discipline's t_Packages (keyed by package identifier) or
+// t_Translations to the caller's list, without emptying it. False, with nothing appended, for
+// an unknown discipline, one opened without databases, or a table with no row; false too
+// when a row holds a value that cannot be read (a NULL number).
+LUMORA_EXPORT bool lmGetPackages(uint32_t disciplineId, lumora::PackageList* list);
+LUMORA_EXPORT bool lmGetPackageTranslations(uint32_t disciplineId, lumora::TranslationList* list);
 
 // Loads the diagnosis data of every discipline (disciplineId 0) or of one, for `user`. True
 // when every load succeeded: both loads of each discipline for 0, both loads of the discipline

@@ -34,8 +34,8 @@ const char* PathKindName(uint32_t path_kind) {
   return path_kind == kPathUrl ? "url" : path_kind == kPathUnc ? "unc" : "local";
 }
 
-OpenedContent::OpenedContent(const std::string& root, uint32_t filter)
-    : ok_(lmOpen(root.c_str(), filter)) {}
+OpenedContent::OpenedContent(const std::string& root, uint32_t filter, bool databases)
+    : ok_(databases ? lmOpen_Database(root.c_str(), filter) : lmOpen(root.c_str(), filter)) {}
 
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
   if (FindDiscipline(id) == nullptr) {

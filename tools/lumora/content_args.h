@@ -19,10 +19,11 @@ uint32_t ParseNumber(const std::string& text, const char* what);
 uint32_t ParsePathKind(const std::string& text);
 const char* PathKindName(uint32_t path_kind);
 
-// Opens a content root for the life of a command and closes it again.
+// Opens a content root for the life of a command (with the package databases when asked) and
+// closes it again.
 class OpenedContent {
  public:
-  OpenedContent(const std::string& root, uint32_t filter);
+  OpenedContent(const std::string& root, uint32_t filter, bool databases = false);
   ~OpenedContent() { lmClose(); }
   OpenedContent(const OpenedContent&) = delete;
   OpenedContent& operator=(const OpenedContent&) = delete;

@@ -3,6 +3,7 @@
 #include <lumora/support/paths.h>
 
 #include "sample/sample_classes.h"
+#include "sample/sample_database.h"
 #include "sample/sample_exercise_types.h"
 #include "sample/sample_grammar.h"
 #include "sample/sample_index.h"
@@ -22,7 +23,8 @@ bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int s
   if (!WriteDescriptionIndex(folder, error)) return false;
   if (d.type != 0) return true;
   if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
-      !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error)) {
+      !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error) ||
+      !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), error)) {
     return false;
   }
   if (d.id != kEveryTypeDiscipline) return RebuildResourceIndexes(folder, folder, error);

@@ -1,12 +1,13 @@
 // Everything the library holds for one open discipline: its roots and data folder, its
-// description record, glossary and grammar, a copy of its description entries and its
-// resource index. The host shares the layout, so the members keep this order; reverse
-// declaration order is also the order in which the destructor releases them.
+// description record, glossary and grammar, a copy of its description entries, its resource
+// index and its package database. The host shares the layout, so the members keep this order;
+// reverse declaration order is also the order in which the destructor releases them.
 #pragma once
 
 #include <lumora/frame/discipline_info.h>
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/grammar.h>
+#include <lumora/packages/database_connection.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type2000_index.h>
@@ -20,9 +21,6 @@
 namespace lumora {
 
 class Classification;
-// Made by the package-database open, which is not part of the library yet: the pointer stays
-// null and only holds its place in the layout.
-class DatabaseConnection;
 
 class Discipline : public Object {
  public:
@@ -44,7 +42,9 @@ class Discipline : public Object {
   // request.
   void MakeDiagnosisData();
 
-  DatabaseConnection* database = nullptr;
+  // Made by the open with databases; closed and released by the close before the discipline
+  // itself goes.
+  std::unique_ptr<DatabaseConnection> database;
   DisciplineInfo info;
   std::string localRoot;
   std::string uncRoot;

@@ -10,8 +10,15 @@
 namespace lumora {
 namespace {
 
-// What a discipline's destructor leaves to the close: its resource index.
-void ReleaseIndex(Discipline& discipline) { discipline.resourceIndex.reset(); }
+// What a discipline's destructor leaves to the close: its database connection, closed first,
+// and its resource index.
+void ReleaseConnectionAndIndex(Discipline& discipline) {
+  if (discipline.database != nullptr) {
+    discipline.database->Close();
+    discipline.database.reset();
+  }
+  discipline.resourceIndex.reset();
+}
 
 // Registers the discipline of the current section and opens it. One whose Type is not 0 is
 // dropped again by its identifier; with a duplicate identifier that drops the discipline
@@ -23,7 +30,7 @@ void OpenDiscipline(ProfileFile& ini, const std::string& root, uint32_t id) {
   library.registry.Add(id, std::move(owned));
   discipline.Open(ini, root, library.commonLocal, DisciplineFolder(id));
   if (discipline.info.Type != 0) {
-    ReleaseIndex(discipline);
+    ReleaseConnectionAndIndex(discipline);
     library.registry.RemoveKey(id);
     return;
   }
@@ -58,7 +65,8 @@ void Close() {
   LibraryState& library = Library();
   library.classification.Clear();
   for (uint32_t i = 0; i < library.registry.size(); ++i) {
-    if (Discipline* discipline = library.registry.ObjectAt(i)) ReleaseIndex(*discipline);
+    Discipline* discipline = library.registry.ObjectAt(i);
+    if (discipline != nullptr) ReleaseConnectionAndIndex(*discipline);
   }
   library.registry.Clear();
   ComUninitialize();

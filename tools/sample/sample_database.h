@@ -1,0 +1,16 @@
+// The package database of an opened sample discipline: three packages whose resource rows name
+// type-40 exercises and type-1005 elements the sample writes, with titles in English, in the
+// course language and in Russian (one title has an apostrophe).
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace lumora::sample {
+
+// Writes `data_folder` + "Content.mdb" afresh through the library's database connection: the
+// identifier table, then the three package tables and their rows. `language` is the course
+// language. False with a one-line reason when a statement fails.
+bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, std::string* error);
+
+}  // namespace lumora::sample
