@@ -1,0 +1,53 @@
+// The comparison behind a glossary's alphabetical order. Words compare by their sort keys as
+// the language's locale orders them, ignoring case; the locale sees the key the way a narrow
+// text in the language's code page reads, so characters the code page cannot hold compare as
+// their stand-ins. Equal keys fall back to their UTF-16 code units, then to the word number.
+//
+// A full sort would convert and collate each word many times over; instead each word gets its
+// collation key once, and the order is a plain comparison of precomputed entries.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct UCollator;
+
+namespace lumora {
+
+struct HeadwordEntry {
+  std::string collationKey;  // the locale's binary key: equal keys mean equal under the locale
+  std::u16string sortKey;
+  uint16_t fnId = 0;
+};
+
+bool wordLess(const HeadwordEntry& a, const HeadwordEntry& b);
+
+// The locale comparison of one language, opened once for a whole rebuild.
+class HeadwordCollator {
+ public:
+  explicit HeadwordCollator(uint8_t language);
+  ~HeadwordCollator();
+  HeadwordCollator(const HeadwordCollator&) = delete;
+  HeadwordCollator& operator=(const HeadwordCollator&) = delete;
+
+  // False when the language's identifier names no locale the comparison knows: then no two
+  // words compare as less than each other.
+  bool usable() const { return collator_ != nullptr; }
+
+  // The entry of word `fnId` written as `writing`; without a usable collator its collation key
+  // stays empty.
+  HeadwordEntry Entry(uint16_t fnId, std::u16string_view writing) const;
+
+ private:
+  struct Closer {
+    void operator()(UCollator* collator) const;
+  };
+
+  uint8_t language_;
+  uint16_t codePage_;
+  std::unique_ptr<UCollator, Closer> collator_;
+};
+
+}  // namespace lumora
