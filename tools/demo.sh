@@ -48,6 +48,17 @@ step "The same search typed with an accent, at the start of the word only" \
   'lumora glossary $dir -d 1 find É --prefix | head -12'
 step "One glossary word: its texts, translations, sound and links, sound path as a web path" \
   'lumora glossary $dir -d 1 word 1 --path-kind url | head -20'
+step "Typed without accents, a search still finds «l'été», «éteindre» and «la tête»" \
+  'lumora glossary $dir -d 1 find ete'
+step "Typed with them, the same words" 'lumora glossary $dir -d 1 find été'
+step "Discipline 1's letter sections: «l'âme» files under A, «l'œuf» under the low byte of «œ»" \
+  'lumora glossary $dir -d 1 letters'
+step "Discipline 3 is English: «the», «to» and «(to)» do not count in its order" \
+  'lumora glossary $dir -d 3 by-letter --letter 8 | head -12'
+step "Rebuild discipline 2's order and letters from its written forms and save them" \
+  'lumora glossary $dir -d 2 resort --write | head -8'
+step "The three saved tables still agree with their checksums" \
+  'lumora check-sets $dir/D002/C0000/r0001001 | grep -E "FNs|FNSorted|FNLetter"'
 step "What a context code names" 'lumora label 0xA4020500'
 step "Where discipline 2 keeps its index files" 'lumora path-info $dir -d 2'
 step "The language table (first rows)" 'lumora languages | head -8'
