@@ -79,6 +79,19 @@ void ReadHeadwords(CGloV6& g) {
   g.setVersion = static_cast<int32_t>(version);
 }
 
+// Gives each word its letter number, visiting the headwords in their own order: a large table
+// is then searched where the previous search left off instead of all over.
+void SetLetterIds(CGloV6& g, const std::vector<HeadwordEntry>& words,
+                  const std::vector<uint16_t>& letterIds) {
+  constexpr uint32_t kNoLetter = 0x10000;
+  std::vector<uint32_t> letterOfWord(0x10000, kNoLetter);
+  for (size_t i = 0; i < words.size(); ++i) letterOfWord[words[i].fnId] = letterIds[i];
+  for (uint32_t fnId = 0; fnId < letterOfWord.size(); ++fnId) {
+    if (letterOfWord[fnId] == kNoLetter) continue;
+    g.fns.Find(static_cast<uint16_t>(fnId))->letterId = static_cast<uint16_t>(letterOfWord[fnId]);
+  }
+}
+
 }  // namespace
 
 bool rebuildSortAndLetters(CGloV6& g) {
@@ -87,9 +100,7 @@ bool rebuildSortAndLetters(CGloV6& g) {
   const std::vector<HeadwordEntry> words = SortedHeadwords(g);
   const std::vector<uint16_t> letterIds = WriteOrderAndLetters(g, words);
   if (g.fns.empty()) ReadHeadwords(g);
-  for (size_t i = 0; i < words.size(); ++i) {
-    if (GloFNRecord* fn = g.fns.Find(words[i].fnId)) fn->letterId = letterIds[i];
-  }
+  SetLetterIds(g, words, letterIds);
   return true;
 }
 

@@ -7,8 +7,6 @@
 #include <unicode/ucol.h>
 #include <unicode/uloc.h>
 
-#include <tuple>
-
 namespace lumora {
 namespace {
 
@@ -25,8 +23,12 @@ UCollator* OpenCollator(uint16_t langId) {
   return collator;
 }
 
+std::u16string ThroughCodePage(std::u16string_view text, uint16_t codePage) {
+  return DecodeCodePage(EncodeCodePage(text, codePage), codePage);
+}
+
 std::string CollationKey(const UCollator* collator, std::u16string_view text) {
-  std::string key(text.size() * 2 + 16, '\0');
+  std::string key(text.size() * 4 + 16, '\0');
   const int32_t length = static_cast<int32_t>(text.size());
   auto fill = [&] {
     return ucol_getSortKey(collator, text.data(), length, reinterpret_cast<uint8_t*>(key.data()),
@@ -44,14 +46,15 @@ std::string CollationKey(const UCollator* collator, std::u16string_view text) {
 
 }  // namespace
 
-bool wordLess(const HeadwordEntry& a, const HeadwordEntry& b) {
-  return std::tie(a.collationKey, a.sortKey, a.fnId) < std::tie(b.collationKey, b.sortKey, b.fnId);
-}
-
 HeadwordCollator::HeadwordCollator(uint8_t language)
     : language_(language),
       codePage_(CodePageOf(language)),
-      collator_(OpenCollator(LangIdOf(language))) {}
+      collator_(OpenCollator(LangIdOf(language))) {
+  for (char16_t unit = 1; unit < throughCodePage_.size(); ++unit) {
+    const std::u16string back = ThroughCodePage(std::u16string(1, unit), codePage_);
+    if (back.size() == 1) throughCodePage_[unit] = back.front();
+  }
+}
 
 HeadwordCollator::~HeadwordCollator() = default;
 
@@ -62,10 +65,22 @@ HeadwordEntry HeadwordCollator::Entry(uint16_t fnId, std::u16string_view writing
   entry.fnId = fnId;
   entry.sortKey = sortKey(writing, language_);
   if (!collator_) return entry;
-  const std::u16string asNarrow =
-      DecodeCodePage(EncodeCodePage(entry.sortKey, codePage_), codePage_);
-  entry.collationKey = CollationKey(collator_.get(), asNarrow);
+  entry.collationKey = CollationKey(collator_.get(), AsNarrowReadsIt(entry.sortKey));
   return entry;
+}
+
+const std::u16string& HeadwordCollator::AsNarrowReadsIt(const std::u16string& key) const {
+  std::u16string& read = scratch_;
+  read.resize(key.size());
+  for (size_t i = 0; i < key.size(); ++i) {
+    const char16_t unit = key[i];
+    if (unit >= throughCodePage_.size() || throughCodePage_[unit] == 0) {
+      read = ThroughCodePage(key, codePage_);
+      return read;
+    }
+    read[i] = throughCodePage_[unit];
+  }
+  return read;
 }
 
 }  // namespace lumora

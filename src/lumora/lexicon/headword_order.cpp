@@ -7,12 +7,19 @@
 #include <lumora/support/language_table.h>
 
 #include <algorithm>
+#include <array>
 
 namespace lumora {
 namespace {
 
-// Digits count as punctuation: "3 bis" sorts under "bis".
+// Digits count as punctuation: "3 bis" sorts under "bis". Every one is ASCII.
 constexpr std::u16string_view kPunctuation = u".,;:!?\"_-#$%&*+/0123456789<>=@[]\\^|~";
+
+constexpr std::array<bool, 128> kIsPunctuation = [] {
+  std::array<bool, 128> table{};
+  for (char16_t unit : kPunctuation) table[unit] = true;
+  return table;
+}();
 
 void TrimBlanks(std::u16string& text) {
   const size_t first = text.find_first_not_of(u' ');
@@ -68,7 +75,7 @@ void DropPrefix(std::u16string& text, uint8_t language) {
 std::u16string sortKey(std::u16string_view writing, uint8_t language) {
   std::u16string text(writing);
   for (char16_t& unit : text) {
-    if (kPunctuation.find(unit) != std::u16string_view::npos) unit = u' ';
+    if (unit < kIsPunctuation.size() && kIsPunctuation[unit]) unit = u' ';
   }
   TrimBlanks(text);
   if (DropParentheses(text, language)) return text;
