@@ -43,11 +43,19 @@ TEST(HeadwordCollation, CaseIsIgnoredAccentsAreNot) {
 }
 
 TEST(HeadwordCollation, KeysAreComparedAsTheLanguagesCodePageReadsThem) {
-  // Code page 1252 has no Cyrillic: both words become the same unknown characters and tie.
-  HeadwordCollator english(kEnglishUK);
-  EXPECT_EQ(english.Entry(1, u"яма").collationKey, english.Entry(2, u"бор").collationKey);
-  HeadwordCollator russian(kRussian);
-  EXPECT_LT(russian.Entry(2, u"бор").collationKey, russian.Entry(1, u"яма").collationKey);
+  // Russian orders «ё» before «ю». Code page 1252 has no Cyrillic: in an English glossary both
+  // words become the same unknown characters, tie, and fall back to code units (ю < ё).
+  EXPECT_EQ(SortedIds(kRussian, {{1, u"ёж"}, {2, u"юг"}}), (std::vector<uint16_t>{1, 2}));
+  EXPECT_EQ(SortedIds(kEnglishUK, {{1, u"ёж"}, {2, u"юг"}}), (std::vector<uint16_t>{2, 1}));
+}
+
+// A key that is the beginning of another sorts first, whatever the word numbers.
+TEST(HeadwordCollation, ShorterKeyComesFirst) {
+  EXPECT_EQ(SortedIds(kFrench, {{0xFFFF, u"ab"}, {1, u"abc"}, {0xFF00, u"ab"}}),
+            (std::vector<uint16_t>{0xFF00, 0xFFFF, 1}));
+  // Equal under the locale, "Ab" and "AB" differ in code units only; "ab" follows both.
+  EXPECT_EQ(SortedIds(kFrench, {{3, u"ab"}, {2, u"Ab"}, {1, u"ABc"}, {4, u"AB"}}),
+            (std::vector<uint16_t>{4, 2, 3, 1}));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <lumora/lexicon/glossary_rebuild.h>
 
 #include <lumora/lexicon/headword_collation.h>
-#include <lumora/lexicon/headword_order.h>
 #include <lumora/lexicon/set_file.h>
 #include <lumora/platform/codepage.h>
 
@@ -40,7 +39,9 @@ std::vector<HeadwordEntry> SortedHeadwords(const CGloV6& g) {
     // equal to the first and is left out.
     if (!collator.usable()) break;
   }
-  std::sort(words.begin(), words.end(), wordLess);
+  // Through a lambda, so that the comparison is inlined into the sort.
+  std::sort(words.begin(), words.end(),
+            [](const HeadwordEntry& a, const HeadwordEntry& b) { return wordLess(a, b); });
   return words;
 }
 
@@ -59,7 +60,7 @@ std::vector<uint16_t> WriteOrderAndLetters(CGloV6& g, const std::vector<Headword
   for (size_t i = 0; i < words.size(); ++i) {
     const auto position = static_cast<uint16_t>(i + 1);
     g.sorted.Insert({position, words[i].fnId});
-    const uint8_t letter = LetterOfKey(words[i].sortKey);
+    const uint8_t letter = words[i].letter;
     if (letter != previous) {
       previous = letter;
       ++letterId;

@@ -27,21 +27,27 @@ std::u16string ThroughCodePage(std::u16string_view text, uint16_t codePage) {
   return DecodeCodePage(EncodeCodePage(text, codePage), codePage);
 }
 
-std::string CollationKey(const UCollator* collator, std::u16string_view text) {
-  std::string key(text.size() * 4 + 16, '\0');
+// The binary key of `text`, without the zero byte that ends it, written into `key`.
+void AppendCollationKey(const UCollator* collator, std::u16string_view text, std::string& key) {
+  const size_t start = key.size();
   const int32_t length = static_cast<int32_t>(text.size());
+  key.resize(start + text.size() * 4 + 16);
   auto fill = [&] {
-    return ucol_getSortKey(collator, text.data(), length, reinterpret_cast<uint8_t*>(key.data()),
-                           static_cast<int32_t>(key.size()));
+    return ucol_getSortKey(collator, text.data(), length,
+                           reinterpret_cast<uint8_t*>(key.data() + start),
+                           static_cast<int32_t>(key.size() - start));
   };
   int32_t needed = fill();
-  if (needed > static_cast<int32_t>(key.size())) {
-    key.resize(needed);
+  if (needed > static_cast<int32_t>(key.size() - start)) {
+    key.resize(start + needed);
     needed = fill();
   }
-  // The key ends in a zero byte that adds nothing to the order.
-  key.resize(needed > 0 ? needed - 1 : 0);
-  return key;
+  key.resize(start + (needed > 0 ? needed - 1 : 0));
+}
+
+void AppendHighByteFirst(char16_t unit, std::string& key) {
+  key.push_back(static_cast<char>(unit >> 8));
+  key.push_back(static_cast<char>(unit & 0xFF));
 }
 
 }  // namespace
@@ -61,11 +67,16 @@ HeadwordCollator::~HeadwordCollator() = default;
 void HeadwordCollator::Closer::operator()(UCollator* collator) const { ucol_close(collator); }
 
 HeadwordEntry HeadwordCollator::Entry(uint16_t fnId, std::u16string_view writing) const {
+  const std::u16string key = sortKey(writing, language_);
   HeadwordEntry entry;
   entry.fnId = fnId;
-  entry.sortKey = sortKey(writing, language_);
-  if (!collator_) return entry;
-  entry.collationKey = CollationKey(collator_.get(), AsNarrowReadsIt(entry.sortKey));
+  entry.letter = LetterOfKey(key);
+  entry.orderKey.reserve(key.size() * 6 + 24);
+  if (collator_) AppendCollationKey(collator_.get(), AsNarrowReadsIt(key), entry.orderKey);
+  entry.orderKey.push_back('\0');
+  for (char16_t unit : key) AppendHighByteFirst(unit, entry.orderKey);
+  AppendHighByteFirst(u'\0', entry.orderKey);
+  AppendHighByteFirst(fnId, entry.orderKey);
   return entry;
 }
 

@@ -4,7 +4,7 @@
 // their stand-ins. Equal keys fall back to their UTF-16 code units, then to the word number.
 //
 // A full sort would convert and collate each word many times over; instead each word gets its
-// collation key once, and the order is a plain comparison of precomputed entries.
+// key once, and the order is a plain comparison of precomputed bytes.
 #pragma once
 
 #include <array>
@@ -17,17 +17,18 @@ struct UCollator;
 
 namespace lumora {
 
+// A word as the order sees it. `orderKey` holds, one after the other, the locale's binary key
+// of the word's sort key, a zero byte (which no binary key contains, so a shorter key stays
+// first), the sort key's code units high byte first, two zero bytes, and the word number high
+// byte first: comparing these bytes is the whole order, as fast as sorting by the binary keys.
 struct HeadwordEntry {
-  std::string collationKey;  // the locale's binary key: equal keys mean equal under the locale
-  std::u16string sortKey;
+  std::string orderKey;
   uint16_t fnId = 0;
+  uint8_t letter = 0;  // the word's letter section (firstLetter)
 };
 
-// One three-way comparison per field, inline: a sort calls this a million times.
 inline bool wordLess(const HeadwordEntry& a, const HeadwordEntry& b) {
-  if (const int order = a.collationKey.compare(b.collationKey); order != 0) return order < 0;
-  if (const int order = a.sortKey.compare(b.sortKey); order != 0) return order < 0;
-  return a.fnId < b.fnId;
+  return a.orderKey < b.orderKey;
 }
 
 // The locale comparison of one language, opened once for a whole rebuild.
@@ -42,8 +43,8 @@ class HeadwordCollator {
   // words compare as less than each other.
   bool usable() const { return collator_ != nullptr; }
 
-  // The entry of word `fnId` written as `writing`; without a usable collator its collation key
-  // stays empty.
+  // The entry of word `fnId` written as `writing`; without a usable collator its key holds
+  // only the tie-breaks.
   HeadwordEntry Entry(uint16_t fnId, std::u16string_view writing) const;
 
  private:
