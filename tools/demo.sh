@@ -42,12 +42,19 @@ step "Rebuild the type-7 index from its resource files into a scratch folder" \
   'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'
 step "Discipline 1's grammar: one point with its titles, pictures, subpoints, keywords and bubbles" \
   'lumora grammar $dir -d 1 point 2'
-step "Glossary search: accents and case do not matter, words come by letter" \
-  'lumora glossary $dir -d 1 find e | head -12'
-step "The same search typed with an accent, at the start of the word only" \
-  'lumora glossary $dir -d 1 find É --prefix | head -12'
+step "Typed without accents, a search still finds «l'été», «éteindre» and «la tête»" \
+  'lumora glossary $dir -d 1 find ete'
+step "Typed with them, the same words" 'lumora glossary $dir -d 1 find été'
 step "One glossary word: its texts, translations, sound and links, sound path as a web path" \
   'lumora glossary $dir -d 1 word 1 --path-kind url | head -20'
+step "Discipline 1's letter sections: «l'âme» files under A, «l'œuf» under the low byte of «œ»" \
+  'lumora glossary $dir -d 1 letters'
+step "Discipline 3 is English: «the», «to» and «(to)» do not count in its order" \
+  'lumora glossary $dir -d 3 by-letter --letter 8 | head -12'
+step "Rebuild discipline 2's order and letters from its written forms and save them" \
+  'lumora glossary $dir -d 2 resort --write | head -8'
+step "The three saved tables still agree with their checksums" \
+  'lumora check-sets $dir/D002/C0000/r0001001 | grep -E "FNs|FNSorted|FNLetter"'
 step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
   'lumora packages $dir -d 1'
 step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'

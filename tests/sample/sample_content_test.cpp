@@ -157,7 +157,7 @@ TEST_F(SampleContent, OpensTheTypeZeroDisciplinesAndListsAllFour) {
   ASSERT_TRUE(lmGetDisciplines(root().c_str(), &list));
   ASSERT_EQ(list.size(), 4u);
   const uint32_t ids[] = {1, 2, 3, 9};
-  const int32_t params[] = {17, 18, 33, 17};
+  const int32_t params[] = {17, 18, 15, 17};
   for (uint32_t i = 0; i < 4; ++i) {
     EXPECT_EQ(list.KeyAt(i), ids[i]);
     EXPECT_EQ(list.ObjectAt(i)->Type, i == 3 ? 1 : 0);

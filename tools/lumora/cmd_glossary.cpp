@@ -7,6 +7,7 @@
 #include "commands.h"
 #include "content_args.h"
 #include "glossary_print.h"
+#include "glossary_resort.h"
 
 namespace lumora::cli {
 namespace {
@@ -72,6 +73,9 @@ void AddGlossaryCommand(CLI::App& app) {
   AddWord(*command, options);
   AddView(*command, options, "letters", "The letter sections", &PrintLetters);
   AddByLetter(*command, options);
+  AddGlossaryResort(*command, [options] {
+    return GlossaryTarget{options->root, options->discipline, options->json};
+  });
 }
 
 const CommandRegistration reg{"glossary", &AddGlossaryCommand};

@@ -5,6 +5,7 @@
 #include "sample/sample_classes.h"
 #include "sample/sample_database.h"
 #include "sample/sample_exercise_types.h"
+#include "sample/sample_glossary.h"
 #include "sample/sample_grammar.h"
 #include "sample/sample_index.h"
 #include "sample/sample_ini.h"
@@ -15,6 +16,9 @@
 namespace lumora::sample {
 namespace {
 
+// The one discipline whose glossary is read through its sound and recognition indexes.
+constexpr int kIndexedGlossaryDiscipline = 1;
+
 // Every discipline keeps its files in its own folder, which is both its Local root and its data
 // folder. One that is only listed still needs its description index: listing reads it. One
 // discipline also shows every other exercise type, a few resources each whatever the scale.
@@ -24,7 +28,9 @@ bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int s
   if (d.type != 0) return true;
   if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
       !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error) ||
-      !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), error)) {
+      !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), error) ||
+      !WriteSampleGlossary(folder, static_cast<uint8_t>(d.param),
+                           d.id == kIndexedGlossaryDiscipline, error)) {
     return false;
   }
   if (d.id != kEveryTypeDiscipline) return RebuildResourceIndexes(folder, folder, error);

@@ -32,10 +32,10 @@ constexpr CourseTexts kCourseTexts[] = {
      {u"Die Artikel", u"Das Präsens", u"Die Fragen"},
      {u"der", u"ein", u"spielen", u"sein", u"ob"},
      {u"Der Hund schläft.", u"Ich spiele Tennis."}},
-    {33,
-     {u"Los artículos", u"El presente", u"Las preguntas"},
-     {u"el", u"un", u"hablar", u"ir", u"qué"},
-     {u"El gato duerme.", u"Hablo español."}},
+    {15,
+     {u"Articles", u"The present", u"Questions"},
+     {u"the", u"a", u"to talk", u"to go", u"do"},
+     {u"The cat is sleeping.", u"I speak English."}},
 };
 
 constexpr const char16_t* kEnglishTitles[] = {u"Articles", u"Present tense", u"Questions"};

@@ -12,7 +12,7 @@ struct SampleDiscipline {
 };
 
 inline constexpr SampleDiscipline kSampleDisciplines[] = {
-    {1, 0, 17}, {2, 0, 18}, {3, 0, 33}, {9, 1, 17}};
+    {1, 0, 17}, {2, 0, 18}, {3, 0, 15}, {9, 1, 17}};
 
 // "D001/": the folder of a discipline below the content root, its Local root and data folder.
 std::string DisciplineFolder(int id);
