@@ -31,12 +31,13 @@ demo: build
 	./tools/demo.sh $(BUILD)/lumora $(DEMO_DIR)
 
 # The sanitizer build uses clang when the machine has it, so that the fuzz targets are built
-# from the same objects instead of a third build of the library.
+# from the same objects instead of a third build of the library. It compiles the library in
+# batches: the release build, file by file, is the one that checks each file's own includes.
 SAN_CXX    ?= $(shell command -v clang++ >/dev/null 2>&1 && echo clang++ || echo c++)
 
 $(ASAN_BUILD)/CMakeCache.txt:
 	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=$(SAN_CXX) $(LAUNCHER) \
-	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF
+	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF -DLUMORA_UNITY=ON
 
 asan-test: $(ASAN_BUILD)/CMakeCache.txt
 	cmake --build $(ASAN_BUILD) -j $(JOBS)

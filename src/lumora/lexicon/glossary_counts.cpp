@@ -7,7 +7,6 @@
 namespace lumora {
 namespace {
 
-constexpr uint8_t kEntryKind = 1;
 constexpr uint8_t kClassifiedAttr = 2;
 
 // Calls visit(fn) for every entry the search considers: all of them when both ids are 0,
@@ -16,7 +15,7 @@ template <typename Visit>
 void ForEachEntry(const SetTable<GloFNRecord>& fns, bool restricted,
                   const std::vector<uint16_t>& linked, Visit visit) {
   for (const GloFNRecord& fn : fns) {
-    if (fn.kind != kEntryKind) continue;
+    if (fn.kind != GloFNRecord::kEntryKind) continue;
     if (restricted && !std::binary_search(linked.begin(), linked.end(), fn.fnId)) continue;
     visit(fn);
   }

@@ -18,6 +18,9 @@ inline constexpr uint32_t kLargestGlossarySchema = 0xFFFFFFFF;
 
 // t_Glo_FNs: the neutral forms (headwords).
 struct GloFNRecord {
+  // The kind of the headwords that searches and the alphabetical order take in.
+  static constexpr uint8_t kEntryKind = 1;
+
   uint16_t fnId = 0;
   uint16_t writingId = 0;
   uint16_t attrB = 0;

@@ -10,8 +10,6 @@
 namespace lumora {
 namespace {
 
-constexpr uint8_t kEntryKind = 1;
-
 bool HasNeededCode(const GloFNRecord& fn) {
   return std::any_of(fn.codes.begin(), fn.codes.end(),
                      [](uint32_t code) { return code >= 50000 && code < 60000; });
@@ -56,7 +54,7 @@ void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
   buckets.resize(glossary.letters.size());
   for (const GloFNSortedRecord& entry : glossary.sorted) {
     const GloFNRecord* fn = FindNumbered(glossary.fns, entry.fnId);
-    if (fn == nullptr || fn->kind != kEntryKind || fn->letterId == 0) continue;
+    if (fn == nullptr || fn->kind != GloFNRecord::kEntryKind || fn->letterId == 0) continue;
     if (fn->letterId > buckets.size() || !keep(*fn)) continue;
     buckets[fn->letterId - 1].push_back(fn->fnId);
   }

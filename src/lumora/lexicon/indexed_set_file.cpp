@@ -1,4 +1,5 @@
 #include <lumora/lexicon/indexed_set_file.h>
+#include <lumora/lexicon/read_to_end.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/profile.h>
 #include <lumora/platform/stream.h>
@@ -15,7 +16,6 @@ constexpr int32_t kFirstRefusedIndexVersion = 100;
 constexpr int32_t kUnrecordedIndexVersion = 1;
 constexpr int32_t kUsableRecordsIndexVersion = 2;
 constexpr uint32_t kLastWord = 65534;
-constexpr size_t kReadBlock = 64 * 1024;
 
 std::string IndexVersionKey(std::u16string_view name) {
   return "Version_" + SetIndexPath("", name);
@@ -26,13 +26,8 @@ std::string ChecksumList(const std::string& folder) { return folder + xCRCFile2:
 bool ReadWhole(const std::string& path, std::vector<uint8_t>& bytes) {
   File file;
   if (!file.Open(path, open_flags::kRead | open_flags::kBinary)) return false;
-  for (;;) {
-    const size_t old_size = bytes.size();
-    bytes.resize(old_size + kReadBlock);
-    const size_t got = file.Read(bytes.data() + old_size, kReadBlock);
-    bytes.resize(old_size + got);
-    if (got < kReadBlock) return true;
-  }
+  ReadToEnd(file, bytes);
+  return true;
 }
 
 bool TryWriteIndexed(const std::string& set_path, const std::string& index_path,

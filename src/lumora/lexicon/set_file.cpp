@@ -1,3 +1,4 @@
+#include <lumora/lexicon/read_to_end.h>
 #include <lumora/lexicon/set_file.h>
 #include <lumora/lexicon/set_file_write.h>
 #include <lumora/platform/codepage.h>
@@ -12,17 +13,11 @@ namespace lumora {
 namespace {
 
 constexpr uint32_t kWesternCodePage = 1252;
-constexpr size_t kReadBlock = 64 * 1024;
 
 std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
   std::vector<uint8_t> bytes;
-  for (;;) {
-    const size_t old_size = bytes.size();
-    bytes.resize(old_size + kReadBlock);
-    const size_t got = file.Read(bytes.data() + old_size, kReadBlock);
-    bytes.resize(old_size + got);
-    if (got < kReadBlock) return bytes;
-  }
+  ReadToEnd(file, bytes);
+  return bytes;
 }
 
 // Whether the bytes the reader took match the recorded checksum. The file's own running

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kSetExtension = ".set";
 constexpr size_t kHeaderSize = 8;
-constexpr size_t kReadBlock = 64 * 1024;
+constexpr size_t kScanBlock = 64 * 1024;
 
 bool HasSetExtension(std::string_view name) {
   return EqualsIgnoringCase(ExtensionOf(name), kSetExtension);
@@ -35,7 +35,7 @@ SetFileCheck CheckSetFile(const std::string& path) {
   if (!file.Open(path, open_flags::kRead | open_flags::kBinary)) return check;
   std::array<uint8_t, kHeaderSize> header{};
   size_t total = file.Read(header.data(), header.size());
-  std::vector<uint8_t> block(kReadBlock);
+  std::vector<uint8_t> block(kScanBlock);
   for (size_t got; (got = file.Read(block.data(), block.size())) > 0;) total += got;
   file.Close();
 

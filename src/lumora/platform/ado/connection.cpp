@@ -10,7 +10,7 @@
 namespace lumora::ado {
 namespace {
 
-constexpr const char* kSource = "ADODB.Connection";
+constexpr const char* kConnectionSource = "ADODB.Connection";
 
 // The engine reads nothing until the first statement; this one makes a file that is not a
 // database (or is locked away) fail at once.
@@ -25,35 +25,35 @@ constexpr std::u16string_view kTablesQuery =
 
 Connection::Connection() {
   if (ComInitializations() == 0) {
-    throw Error(kNotInitialized, kSource, "no COM apartment on this thread");
+    throw Error(kNotInitialized, kConnectionSource, "no COM apartment on this thread");
   }
 }
 
 Connection::~Connection() { sqlite3_close_v2(db_); }
 
 void Connection::SetMode(int32_t mode) {
-  if (db_ != nullptr) throw Error(kObjectOpen, kSource, "the connection is open");
+  if (db_ != nullptr) throw Error(kObjectOpen, kConnectionSource, "the connection is open");
   mode_ = mode;
 }
 
 void Connection::Open(std::string_view connection_string, std::string_view, std::string_view,
                       int32_t) {
-  if (db_ != nullptr) throw Error(kObjectOpen, kSource, "the connection is open");
+  if (db_ != nullptr) throw Error(kObjectOpen, kConnectionSource, "the connection is open");
   const auto file = DatabaseFileOf(connection_string);
   if (!file) {
-    throw Error(kUnspecifiedError, kSource, "no database file in the connection string");
+    throw Error(kUnspecifiedError, kConnectionSource, "no database file in the connection string");
   }
   const bool read_only = (mode_ & kModeReadWrite) == kModeRead;
   sqlite3* db = nullptr;
   const int rc = sqlite3_open_v2(file->c_str(), &db,
                                  read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, nullptr);
   if (rc != SQLITE_OK) {
-    Error error = EngineError(db, rc, kSource);
+    Error error = EngineError(db, rc, kConnectionSource);
     sqlite3_close_v2(db);
     throw error;
   }
   try {
-    Statement(db, kProbe, kSource).Step();
+    Statement(db, kProbe, kConnectionSource).Step();
   } catch (...) {
     sqlite3_close_v2(db);
     throw;
@@ -62,16 +62,17 @@ void Connection::Open(std::string_view connection_string, std::string_view, std:
 }
 
 void Connection::Close() {
-  if (db_ == nullptr) throw Error(kObjectClosed, kSource, "the connection is closed");
+  if (db_ == nullptr) throw Error(kObjectClosed, kConnectionSource, "the connection is closed");
   sqlite3_close_v2(db_);
   db_ = nullptr;
 }
 
 void Connection::Execute(std::u16string_view sql, int32_t options) {
   if ((options & kExecuteNoRecords) == 0) {
-    throw Error(kUnspecifiedError, kSource, "only statements without records can be executed");
+    throw Error(kUnspecifiedError, kConnectionSource,
+                "only statements without records can be executed");
   }
-  Statement statement(handle(), Utf16ToUtf8(sql), kSource);
+  Statement statement(handle(), Utf16ToUtf8(sql), kConnectionSource);
   while (statement.Step()) {
   }
 }
@@ -83,7 +84,7 @@ std::unique_ptr<Recordset> Connection::OpenSchemaTables() {
 }
 
 sqlite3* Connection::handle() const {
-  if (db_ == nullptr) throw Error(kObjectClosed, kSource, "the connection is closed");
+  if (db_ == nullptr) throw Error(kObjectClosed, kConnectionSource, "the connection is closed");
   return db_;
 }
 

@@ -8,13 +8,13 @@
 namespace lumora::ado {
 namespace {
 
-constexpr const char* kSource = "ADODB.Recordset";
+constexpr const char* kRecordsetSource = "ADODB.Recordset";
 
 }  // namespace
 
 void Recordset::Open(std::u16string_view sql, Connection& active) {
-  if (open_) throw Error(kObjectOpen, kSource, "the record set is open");
-  Statement statement(active.handle(), Utf16ToUtf8(sql), kSource);
+  if (open_) throw Error(kObjectOpen, kRecordsetSource, "the record set is open");
+  Statement statement(active.handle(), Utf16ToUtf8(sql), kRecordsetSource);
   sqlite3_stmt* stmt = statement.get();
   const int count = sqlite3_column_count(stmt);
   std::vector<std::string> names;
@@ -51,20 +51,20 @@ bool Recordset::GetEOF() const {
 }
 
 void Recordset::MoveNext() {
-  if (GetEOF()) throw Error(kNoCurrentRecord, kSource, "no current record");
+  if (GetEOF()) throw Error(kNoCurrentRecord, kRecordsetSource, "no current record");
   ++position_;
 }
 
 const Variant& Recordset::Field(std::string_view name) const {
-  if (GetEOF()) throw Error(kNoCurrentRecord, kSource, "no current record");
+  if (GetEOF()) throw Error(kNoCurrentRecord, kRecordsetSource, "no current record");
   for (size_t i = 0; i < names_.size(); ++i) {
     if (EqualsIgnoringCase(names_[i], name)) return rows_[position_][i];
   }
-  throw Error(kItemNotFound, kSource, "no field named " + std::string(name));
+  throw Error(kItemNotFound, kRecordsetSource, "no field named " + std::string(name));
 }
 
 void Recordset::RequireOpen() const {
-  if (!open_) throw Error(kObjectClosed, kSource, "the record set is closed");
+  if (!open_) throw Error(kObjectClosed, kRecordsetSource, "the record set is closed");
 }
 
 }  // namespace lumora::ado

@@ -11,14 +11,14 @@
 namespace lumora::ado {
 namespace {
 
-constexpr const char* kSource = "Variant";
+constexpr const char* kVariantSource = "Variant";
 
 [[noreturn]] void Mismatch(const char* target) {
-  throw Error(kTypeMismatch, kSource, std::string("value cannot be converted to ") + target);
+  throw Error(kTypeMismatch, kVariantSource, std::string("value cannot be converted to ") + target);
 }
 
 [[noreturn]] void Overflow(const char* target) {
-  throw Error(kOverflow, kSource, std::string("value out of the range of ") + target);
+  throw Error(kOverflow, kVariantSource, std::string("value out of the range of ") + target);
 }
 
 int32_t RoundToI4(double value) {
