@@ -45,10 +45,11 @@ std::string ExpandMediaPattern(const std::string& pattern, std::initializer_list
       out.push_back(pattern[i]);
       continue;
     }
-    const std::string spec = pattern.substr(i + 1, end - i - 1);
+    const std::string width_text = pattern.substr(i + 1, end - i - 1);
     std::string digits = std::to_string(*value++);
-    const size_t width = spec.empty() ? 0 : std::stoul(spec);
-    if (digits.size() < width) digits.insert(0, width - digits.size(), spec[0] == '0' ? '0' : ' ');
+    const size_t width = width_text.empty() ? 0 : std::stoul(width_text);
+    if (digits.size() < width)
+      digits.insert(0, width - digits.size(), width_text[0] == '0' ? '0' : ' ');
     out += digits;
     i = end;
   }
