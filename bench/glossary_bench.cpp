@@ -2,8 +2,8 @@
 // written form, a place in the alphabetical order, a translation and a sound, with comments
 // and links for some):
 //   - `load` against reading the same set files and computing their CRC-32 (target: at most
-//     twice the reference's time), with the heap the loaded glossary holds against the files'
-//     size (target: at most three times);
+//     twice the reference's time), with the heap the loaded glossary holds, and the most heap
+//     the load holds at once, against the files' size (target: at most three times);
 //   - one `findWords` query against `grep -F -c` over a file of the same written forms already
 //     reduced to plain lower case, one per line (target: at most twice the reference's time).
 #include <lumora/lexicon/glossary.h>
@@ -24,6 +24,8 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "heap_peak.h"
 
 namespace {
 
@@ -146,8 +148,10 @@ void ReferenceReadAndChecksum(benchmark::State& state) {
 void Load(benchmark::State& state) {
   if (!Glossary().ready()) return state.SkipWithError("no glossary");
   double held = 0;
+  double peak = 0;
   for (auto _ : state) {
     const size_t before = mallinfo2().uordblks;
+    auto counter = std::make_unique<HeapPeak>();
     auto glossary = std::make_unique<lumora::CGloV6>();
     if (!glossary->load(Glossary().folder())) {
       return state.SkipWithError("the glossary did not load");
@@ -155,12 +159,15 @@ void Load(benchmark::State& state) {
     // Freeing the tables is the discipline's closing, not its loading.
     state.PauseTiming();
     held = static_cast<double>(mallinfo2().uordblks - before);
+    peak = static_cast<double>(counter->peak());
+    counter.reset();
     glossary.reset();
     state.ResumeTiming();
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Glossary().setBytes()));
   state.counters["set_bytes"] = static_cast<double>(Glossary().setBytes());
   state.counters["heap_to_files"] = held / static_cast<double>(Glossary().setBytes());
+  state.counters["peak_to_files"] = peak / static_cast<double>(Glossary().setBytes());
 }
 
 void ReferenceGrep(benchmark::State& state) {

@@ -82,7 +82,7 @@ void ReferenceSortByIcuKeys(benchmark::State& state) {
   if (U_FAILURE(status)) return state.SkipWithError("no collator");
   ucol_setStrength(collator.get(), UCOL_SECONDARY);
   std::vector<std::u16string> words;
-  for (const lumora::GloWritingRecord& w : Glossary().writings) words.push_back(w.writing);
+  for (const lumora::GloWritingRecord& w : Glossary().writings) words.push_back(w.writing.str());
   for (auto _ : state) {
     std::vector<std::pair<std::string, uint32_t>> keyed(words.size());
     for (uint32_t i = 0; i < words.size(); ++i) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Runs a Google Benchmark program and prints each benchmark's throughput as a ratio to the
-reference of its group.
+reference of its group, followed by the benchmark's own counters (memory figures and the like).
 
 Benchmarks are grouped by the part of their name before the first "/"; in each group the one
 whose name contains "reference" is the yardstick. Arguments after the program are passed to it.
@@ -15,6 +15,11 @@ from collections import OrderedDict
 
 
 SECONDS_PER_UNIT = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
+
+# Fields every benchmark result has; any other number is a counter the benchmark set itself.
+STANDARD_FIELDS = {"family_index", "per_family_instance_index", "repetitions", "repetition_index",
+                   "threads", "iterations", "real_time", "cpu_time", "bytes_per_second",
+                   "items_per_second"}
 
 
 def throughput(bench):
@@ -49,7 +54,10 @@ def report(benches):
             rate = throughput(bench)
             mbps = f"{rate / 1e6:10.1f} MB/s" if "bytes_per_second" in bench else " " * 15
             ratio = f"{rate / base:6.2f}x reference" if base and rate else "  (no reference)"
-            print(f"{name:<{width}}  {mbps}  {ratio}")
+            counters = "  ".join(f"{key}={value:.4g}" for key, value in bench.items()
+                                 if key not in STANDARD_FIELDS and isinstance(value, (int, float))
+                                 and not isinstance(value, bool))
+            print(f"{name:<{width}}  {mbps}  {ratio}  {counters}".rstrip())
         if group != list(groups)[-1]:
             print()
 

@@ -91,11 +91,15 @@ void ReferenceReadAndChecksum(benchmark::State& state) {
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * FileSize()));
 }
 
-// Memory held by a loaded table, per record: the record slots and the lists' heap blocks.
+// Memory held by a loaded table, per record: the record slots, and the values of any list too
+// long to live inside its record.
 double BytesPerRecord(const lumora::SetTable<WideHeadword>& table) {
   double total = static_cast<double>(table.records().capacity() * sizeof(WideHeadword));
+  const auto on_heap = [](const lumora::U32List& list) {
+    return list.size() > lumora::U32List::kInline ? list.size() : 0;
+  };
   for (const WideHeadword& r : table) {
-    const size_t values = r.fn.codes.capacity() + r.fn.classIds.capacity();
+    const size_t values = on_heap(r.fn.codes) + on_heap(r.fn.classIds);
     total += static_cast<double>(values * sizeof(uint32_t));
   }
   return table.empty() ? 0 : total / table.size();

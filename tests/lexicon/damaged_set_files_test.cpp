@@ -50,8 +50,8 @@ TEST(DamagedSetFiles, EveryTableKindFailsCutOrChanged) {
   GloSoundRecord sound;
   sound.fnId = 4;
   sound.text2 = u"s";
-  sound.qualitiesA.Add(1);
-  sound.qualitiesB.Add(2);
+  sound.qualitiesA.push_back(1);
+  sound.qualitiesB.push_back(2);
   ExpectDamagedCopiesFail<GloSoundRecord>(u"t_Glo_Sounds", {sound});
   ExpectDamagedCopiesFail<GloRecoRecord>(u"t_Glo_Reco1600", {{1, 2, 3, u"a", u"b"}});
   ExpectDamagedCopiesFail<GloFNTranslationRecord>(u"t_Glo_FNTranslations",

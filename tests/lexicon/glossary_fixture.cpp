@@ -3,9 +3,8 @@
 namespace lumora::testing {
 namespace {
 
-void AddWord(CGloV6& glossary, uint16_t fnId, std::u16string writing, uint8_t kind,
-             std::vector<uint32_t> codes, std::vector<uint32_t> classIds, uint8_t level,
-             uint16_t letterId) {
+void AddWord(CGloV6& glossary, uint16_t fnId, std::u16string writing, uint8_t kind, U32List codes,
+             U32List classIds, uint8_t level, uint16_t letterId) {
   // Written forms are numbered apart from the words so a mix-up of the two shows.
   const auto writingId = static_cast<uint16_t>(fnId + 500);
   const uint8_t attrC = classIds.empty() ? 0 : 2;

@@ -54,7 +54,7 @@ struct Letter {
 std::vector<Letter> Letters(const CGloV6& g) {
   std::vector<Letter> letters;
   for (const GloFNLetterRecord& r : g.letters) {
-    letters.push_back({r.letter, r.letterId, r.attrA, r.attrB});
+    letters.push_back({r.letter.str(), r.letterId, r.attrA, r.attrB});
   }
   return letters;
 }

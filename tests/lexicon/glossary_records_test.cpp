@@ -21,14 +21,8 @@ using testing::U32;
 using testing::U8;
 
 // A byte list as stored: the marker 1, the count, the growth step, the bytes.
-Bytes ByteList(const Bytes& values, uint32_t step = 0) {
+Bytes StoredByteList(const Bytes& values, uint32_t step = 0) {
   return Concat({U32(1), U32(static_cast<uint32_t>(values.size())), U32(step), values});
-}
-
-ByteArray MakeByteArray(const Bytes& values) {
-  ByteArray array;
-  for (uint8_t v : values) array.Add(v);
-  return array;
 }
 
 template <typename Record>
@@ -56,7 +50,7 @@ GloSoundRecord Sound(uint16_t id) {
   r.attrB = 9;
   r.text1 = u"a";
   r.text3 = u"cc";
-  r.qualitiesA = MakeByteArray({1, 3});
+  r.qualitiesA = {1, 3};
   return r;
 }
 
@@ -80,7 +74,7 @@ TEST(GlossaryRecords, EachTableStoresItsFieldsInFileOrder) {
        Reloaded<GloCloudRecord>},
       {"t_Glo_Sounds", Stored(Sound(6)),
        Concat({U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"), TextBytes(u""), TextBytes(u"cc"),
-               ByteList({1, 3}), ByteList({})}),
+               StoredByteList({1, 3}), StoredByteList({})}),
        Reloaded<GloSoundRecord>},
       {"t_Glo_Sounds schema 1", Stored(Sound(6), 1),
        Concat(
@@ -137,8 +131,9 @@ TEST(GlossaryRecords, OldSoundsFileIsWrittenBackWithTheQualityLists) {
   ASSERT_TRUE(ReadSetTable(dir.path(), u"t_Glo_Sounds", SetFamily::kGlossary, sounds, &version));
   EXPECT_EQ(version, 1u);
   ASSERT_TRUE(WriteSetTable(dir.path(), u"t_Glo_Sounds", SetFamily::kGlossary, sounds));
-  const Bytes expected = Concat({U32(2), U32(1), U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"),
-                                 TextBytes(u""), TextBytes(u"cc"), ByteList({}), ByteList({})});
+  const Bytes expected =
+      Concat({U32(2), U32(1), U16(6), U8(4), U16(0x0102), U8(9), TextBytes(u"a"), TextBytes(u""),
+              TextBytes(u"cc"), StoredByteList({}), StoredByteList({})});
   EXPECT_EQ(dir.Read("t_Glo_Sounds.set"), std::string(expected.begin(), expected.end()));
 }
 

@@ -72,7 +72,7 @@ TEST_F(GlossaryTexts, WrittenFormGoesThroughTheWritingNumber) {
 
   GloFNRecord fn;
   ASSERT_TRUE(glossary.getFN(11, fn));
-  EXPECT_EQ(fn.codes, std::vector<uint32_t>{50001});
+  EXPECT_EQ(fn.codes, U32List{50001});
   EXPECT_FALSE(glossary.getFN(12, fn));
   EXPECT_EQ(fn.fnId, 11);  // an absent key leaves the output alone
 }

@@ -31,7 +31,7 @@ GloSoundRecord Sound(uint16_t id, uint8_t status) {
   r.fnId = id;
   r.status = status;
   r.text1 = u"word";
-  r.qualitiesB.Add(id);
+  r.qualitiesB.push_back(id);
   return r;
 }
 

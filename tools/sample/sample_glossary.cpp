@@ -76,7 +76,7 @@ void AddSound(CGloV6& g, const std::u16string& writing, size_t i) {
   sound.status = i % 8 == 7 ? 0 : GloSoundRecord::kPresentStatus;
   sound.attrA = static_cast<uint16_t>(i);
   sound.text1 = writing;
-  sound.qualitiesA.Add(static_cast<uint8_t>(kSoundQuality));
+  sound.qualitiesA.push_back(static_cast<uint8_t>(kSoundQuality));
   g.sounds.Insert(std::move(sound));
 }
 
@@ -87,7 +87,7 @@ void AddReco(CGloV6& g, const GlossaryConcept& c, uint8_t language, size_t i) {
   reco.fnId = WordNumber(i);
   reco.status = GloRecoRecord::kPresentStatus;
   reco.text1 = In(c, language);
-  reco.text2 = reco.text1 + u"|" + c.english;
+  reco.text2 = reco.text1.str() + u"|" + c.english;
   g.recos.Insert(std::move(reco));
 }
 

@@ -49,7 +49,7 @@ std::u16string CGloV6::getSelectedComments(uint16_t fnId) const {
 std::u16string CGloV6::getCommentOfType7(uint16_t fnId) const {
   const GloCommentRecord* comment = comments.Find({fnId, 7});
   if (comment == nullptr) return {};
-  std::u16string text = comment->comment;
+  std::u16string text = comment->comment.str();
   const size_t plus = text.find(u'+');
   if (plus != std::u16string::npos) text = Trimmed(std::u16string_view(text).substr(plus + 1));
   return text.empty() ? text : u"{" + text + u"}";

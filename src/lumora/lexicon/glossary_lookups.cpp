@@ -23,7 +23,7 @@ std::u16string CGloV6::getWritingText(uint16_t fnId) const {
   const GloFNRecord* fn = fns.Find(fnId);
   if (fn == nullptr) return {};
   const GloWritingRecord* writing = writings.Find(fn->writingId);
-  return writing == nullptr ? std::u16string() : writing->writing;
+  return writing == nullptr ? std::u16string() : writing->writing.str();
 }
 
 bool CGloV6::getWriting(uint16_t writingId, GloWritingRecord& record) const {

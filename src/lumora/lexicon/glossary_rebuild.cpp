@@ -34,7 +34,8 @@ std::vector<HeadwordEntry> SortedHeadwords(const CGloV6& g) {
   for (const GloFNRecord& fn : g.fns) {
     if (fn.kind != kHeadwordKind) continue;
     const GloWritingRecord* writing = g.writings.Find(fn.writingId);
-    words.push_back(collator.Entry(fn.fnId, writing ? writing->writing : std::u16string()));
+    words.push_back(
+        collator.Entry(fn.fnId, writing ? writing->writing.view() : std::u16string_view()));
     // Without a locale comparison no word is less than another: every later word counts as
     // equal to the first and is left out.
     if (!collator.usable()) break;

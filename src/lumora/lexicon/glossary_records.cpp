@@ -43,8 +43,8 @@ void GloSoundRecord::Serialize(Archive& ar, uint32_t schema) {
   IoText(ar, text2);
   IoText(ar, text3);
   if (schema < 2) return;
-  qualitiesA.Serialize(ar);
-  qualitiesB.Serialize(ar);
+  IoByteList(ar, qualitiesA);
+  IoByteList(ar, qualitiesB);
 }
 
 void GloRecoRecord::Serialize(Archive& ar, uint32_t) {

@@ -2,13 +2,12 @@
 // fields in the order its set file stores them.
 #pragma once
 
+#include <lumora/lexicon/record_text.h>
+#include <lumora/lexicon/small_list.h>
 #include <lumora/platform/archive.h>
-#include <lumora/platform/typed_array.h>
 
 #include <cstdint>
-#include <string>
 #include <tuple>
-#include <vector>
 
 namespace lumora {
 
@@ -25,8 +24,8 @@ struct GloFNRecord {
   uint16_t writingId = 0;
   uint16_t attrB = 0;
   uint8_t kind = 0;
-  std::vector<uint32_t> codes;
-  std::vector<uint32_t> classIds;
+  U32List codes;
+  U32List classIds;
   uint8_t level = 0;
   uint8_t attrC = 0;
   uint16_t letterId = 0;
@@ -38,7 +37,7 @@ struct GloFNRecord {
 // t_Glo_Writings
 struct GloWritingRecord {
   uint16_t writingId = 0;
-  std::u16string writing;
+  RecordText writing;
 
   uint16_t Key() const { return writingId; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -60,7 +59,7 @@ struct GloLinkRecord {
 // t_Glo_Cloud1600
 struct GloCloudRecord {
   uint16_t fnId = 0;
-  std::u16string cloudText;
+  RecordText cloudText;
 
   uint16_t Key() const { return fnId; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -74,11 +73,11 @@ struct GloSoundRecord {
   uint8_t status = 0;
   uint16_t attrA = 0;
   uint8_t attrB = 0;
-  std::u16string text1;
-  std::u16string text2;
-  std::u16string text3;
-  ByteArray qualitiesA;
-  ByteArray qualitiesB;
+  RecordText text1;
+  RecordText text2;
+  RecordText text3;
+  ByteList qualitiesA;
+  ByteList qualitiesB;
 
   uint16_t Key() const { return fnId; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -91,8 +90,8 @@ struct GloRecoRecord {
   uint16_t fnId = 0;
   uint16_t attrA = 0;
   uint8_t status = 0;
-  std::u16string text1;
-  std::u16string text2;
+  RecordText text1;
+  RecordText text2;
 
   uint16_t Key() const { return fnId; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -102,7 +101,7 @@ struct GloRecoRecord {
 struct GloFNTranslationRecord {
   uint8_t language = 0;
   uint16_t fnId = 0;
-  std::u16string translation;
+  RecordText translation;
 
   std::tuple<uint8_t, uint16_t> Key() const { return {language, fnId}; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -113,7 +112,7 @@ struct GloFNTranslationRecord {
 struct GloCommentRecord {
   uint16_t fnId = 0;
   uint8_t language = 0;
-  std::u16string comment;
+  RecordText comment;
 
   std::tuple<uint16_t, uint8_t> Key() const { return {fnId, language}; }
   void Serialize(Archive& ar, uint32_t schema);
@@ -130,7 +129,7 @@ struct GloFNSortedRecord {
 
 // t_Glo_FNLetter: the letter index. The letter text comes before its key in the file.
 struct GloFNLetterRecord {
-  std::u16string letter;
+  RecordText letter;
   uint16_t letterId = 0;
   uint16_t attrA = 0;
   uint16_t attrB = 0;

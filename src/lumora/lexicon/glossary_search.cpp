@@ -47,16 +47,22 @@ const Record* FindNumbered(const SetTable<Record>& table, uint16_t key) {
   return table.Find(key);
 }
 
-// Walks the alphabetical order and files every entry with a letter that `keep` accepts in the
-// bucket of its letter. A letter number beyond the letter records has no bucket.
+// Files every entry with a letter that `keep` accepts in the bucket of its letter, each bucket
+// in alphabetical order. A letter number beyond the letter records has no bucket. The words are
+// tested in their own order, which reads the tables front to back, and only then placed by the
+// alphabetical order: walking that order to test them would jump around memory at every word.
 template <typename Keep>
 void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
   buckets.resize(glossary.letters.size());
+  // The letter of each word kept, by word number; 0 for the others.
+  std::vector<uint16_t> letter_of(size_t{UINT16_MAX} + 1, 0);
+  for (const GloFNRecord& fn : glossary.fns) {
+    if (fn.kind != GloFNRecord::kEntryKind || fn.letterId == 0) continue;
+    if (fn.letterId <= buckets.size() && keep(fn)) letter_of[fn.fnId] = fn.letterId;
+  }
   for (const GloFNSortedRecord& entry : glossary.sorted) {
-    const GloFNRecord* fn = FindNumbered(glossary.fns, entry.fnId);
-    if (fn == nullptr || fn->kind != GloFNRecord::kEntryKind || fn->letterId == 0) continue;
-    if (fn->letterId > buckets.size() || !keep(*fn)) continue;
-    buckets[fn->letterId - 1].push_back(fn->fnId);
+    const uint16_t letter = letter_of[entry.fnId];
+    if (letter != 0) buckets[letter - 1].push_back(entry.fnId);
   }
 }
 

@@ -22,7 +22,7 @@ std::u16string_view SeparatorFor(const std::vector<std::u16string>& parts) {
 
 std::u16string CGloV6::getTranslation(uint16_t fnId, uint8_t language) const {
   const GloFNTranslationRecord* found = translations.Find({language, fnId});
-  return found == nullptr ? std::u16string() : found->translation;
+  return found == nullptr ? std::u16string() : found->translation.str();
 }
 
 std::u16string CGloV6::getTranslations(const std::vector<uint16_t>& fnIds, uint8_t language) const {

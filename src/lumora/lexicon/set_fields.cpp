@@ -16,7 +16,23 @@ void IoText(Archive& ar, std::u16string& text) {
   for (char16_t& unit : text) unit = DecodeU16(reinterpret_cast<const uint8_t*>(&unit));
 }
 
-void IoU32List(Archive& ar, std::vector<uint32_t>& values) {
+void IoText(Archive& ar, RecordText& text) {
+  if (ar.IsStoring()) {
+    ar.WriteU32(text.size());
+    for (char16_t unit : text.view()) ar.WriteU16(unit);
+    return;
+  }
+  const uint32_t length = ar.ReadU32();
+  ar.Require(uint64_t{length} * 2);
+  char16_t* units = text.Resize(length);
+  if (length == 0) return;
+  ar.Read(units, size_t{length} * 2);
+  for (uint32_t i = 0; i < length; ++i) {
+    units[i] = DecodeU16(reinterpret_cast<const uint8_t*>(units + i));
+  }
+}
+
+void IoU32List(Archive& ar, U32List& values) {
   if (ar.IsStoring()) {
     ar.WriteU32(static_cast<uint32_t>(values.size()));
     for (uint32_t v : values) ar.WriteU32(v);
@@ -27,6 +43,24 @@ void IoU32List(Archive& ar, std::vector<uint32_t>& values) {
   values.resize(count);
   ar.Read(values.data(), size_t{count} * 4);
   for (uint32_t& v : values) v = DecodeU32(reinterpret_cast<const uint8_t*>(&v));
+}
+
+void IoByteList(Archive& ar, ByteList& bytes) {
+  constexpr uint32_t kKeepGrowBy = 0xFFFFFFFF;
+  if (ar.IsStoring()) {
+    ar.WriteU32(1);
+    ar.WriteU32(bytes.size());
+    ar.WriteU32(bytes.growBy);
+    ar.Write(bytes.data(), bytes.size());
+    return;
+  }
+  ar.ReadU32();  // the element size, always 1
+  const uint32_t count = ar.ReadU32();
+  const uint32_t growBy = ar.ReadU32();
+  if (growBy != kKeepGrowBy) bytes.growBy = growBy;
+  ar.Require(count);
+  bytes.resize(count);
+  ar.Read(bytes.data(), count);
 }
 
 void IoFlag(Archive& ar, uint8_t& flag) {
