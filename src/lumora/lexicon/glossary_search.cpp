@@ -37,16 +37,6 @@ struct LetterFilter {
   }
 };
 
-// Word and writing tables are usually numbered from 1 without gaps, so a record is first looked
-// for at the position its number gives; a search visits every word and this saves it a binary
-// search per table.
-template <typename Record>
-const Record* FindNumbered(const SetTable<Record>& table, uint16_t key) {
-  const std::vector<Record>& records = table.records();
-  if (key >= 1 && key <= records.size() && records[key - 1].Key() == key) return &records[key - 1];
-  return table.Find(key);
-}
-
 // Files every entry with a letter that `keep` accepts in the bucket of its letter, each bucket
 // in alphabetical order. A letter number beyond the letter records has no bucket. The words are
 // tested in their own order, which reads the tables front to back, and only then placed by the
@@ -128,7 +118,7 @@ bool CGloV6::findWords(WordBuckets& buckets, uint32_t, const std::u16string& que
   std::u16string plain_query = query;
   for (char16_t& unit : plain_query) unit = fold(unit);
   FillBuckets(*this, buckets, [&](const GloFNRecord& fn) {
-    const GloWritingRecord* writing = FindNumbered(writings, fn.writingId);
+    const GloWritingRecord* writing = writings.Find(fn.writingId);
     if (writing == nullptr || (needCode != 0 && !HasNeededCode(fn))) return false;
     return HoldsPlain(fold, writing->writing, plain_query, prefixOnly);
   });

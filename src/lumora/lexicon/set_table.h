@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <type_traits>
 #include <vector>
 
 namespace lumora {
@@ -30,6 +31,14 @@ class SetTable {
   void Clear() { records_.clear(); }
 
   const Record* Find(const Key& key) const {
+    // Tables keyed by a number are usually numbered from 1 without gaps (words, written forms),
+    // so the record is first looked for where its number puts it: a walk over all words then
+    // costs no binary search per word.
+    if constexpr (std::is_integral_v<Key>) {
+      if (key >= 1 && key <= records_.size() && records_[key - 1].Key() == key) {
+        return &records_[key - 1];
+      }
+    }
     auto it = LowerBound(key);
     return it != records_.end() && it->Key() == key ? &*it : nullptr;
   }
