@@ -13,7 +13,6 @@
 #include <lumora/lexicon/set_file.h>
 
 #include <fuzzer/FuzzedDataProvider.h>
-#include <stdlib.h>
 
 #include <array>
 #include <cstddef>
@@ -23,6 +22,8 @@
 #include <iterator>
 #include <string>
 #include <vector>
+
+#include "scratch_folder.h"
 
 namespace {
 
@@ -34,33 +35,8 @@ constexpr std::array<std::u16string_view, 2> kIndexed = {u"t_Glo_Sounds", u"t_Gl
 // Languages with a locale comparison (French, English, German) and one without.
 constexpr std::array<uint8_t, 4> kLanguages = {17, 15, 14, 200};
 
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    char pattern[] = "/tmp/lumora-fuzz-XXXXXX";
-    if (mkdtemp(pattern) != nullptr) path_ = std::string(pattern) + "/";
-  }
-  ~ScratchFolder() {
-    std::error_code ignored;
-    if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
-  }
-  const std::string& path() const { return path_; }
-
-  void Empty() const {
-    std::error_code ignored;
-    for (const auto& entry : std::filesystem::directory_iterator(path_, ignored)) {
-      std::filesystem::remove(entry.path(), ignored);
-    }
-  }
-
- private:
-  std::string path_;
-};
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary | std::ios::trunc)
-      .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-}
+using fuzzing::ScratchFolder;
+using fuzzing::WriteFile;
 
 std::vector<std::string> FolderFiles(const std::string& folder) {
   std::vector<std::string> files;

@@ -5,37 +5,17 @@
 #include <lumora/lexicon/glossary_records.h>
 #include <lumora/lexicon/indexed_set_file.h>
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
+
+#include "scratch_folder.h"
 
 namespace {
 
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    char pattern[] = "/tmp/lumora-fuzz-XXXXXX";
-    if (mkdtemp(pattern) != nullptr) path_ = std::string(pattern) + "/";
-  }
-  ~ScratchFolder() {
-    std::error_code ignored;
-    if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
-  }
-  const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
-
-void WriteFile(const std::string& path, const uint8_t* data, size_t size) {
-  std::ofstream(path, std::ios::binary | std::ios::trunc)
-      .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-}
+using fuzzing::ScratchFolder;
+using fuzzing::WriteFile;
 
 template <typename Record>
 void ReadAndFetch(const std::string& folder, std::u16string_view name) {
