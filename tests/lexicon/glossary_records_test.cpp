@@ -116,9 +116,9 @@ TEST(GlossaryRecords, KeysOfSeveralPartsCompareTheFirstPartFirst) {
   comments.Insert({2, 1, u""});
   comments.Insert({1, 200, u""});
   comments.Insert({1, 7, u""});
-  std::vector<uint8_t> languages;
-  for (const auto& r : comments) languages.push_back(r.language);
-  EXPECT_EQ(languages, (std::vector<uint8_t>{7, 200, 1}));
+  std::vector<uint8_t> types;
+  for (const auto& r : comments) types.push_back(r.commentType);
+  EXPECT_EQ(types, (std::vector<uint8_t>{7, 200, 1}));
 }
 
 TEST(GlossaryRecords, OldSoundsFileIsWrittenBackWithTheQualityLists) {

@@ -64,7 +64,7 @@ TEST_F(SampleGlossary, FillsEveryTableAndIndexesOnlyTheFirstDiscipline) {
     const CGloV6& g = Of(discipline);
     std::set<uint8_t> translated, commentTypes;
     for (const GloFNTranslationRecord& t : g.translations) translated.insert(t.language);
-    for (const GloCommentRecord& c : g.comments) commentTypes.insert(c.language);
+    for (const GloCommentRecord& c : g.comments) commentTypes.insert(c.commentType);
     EXPECT_EQ(translated.size(), 2u) << discipline;
     EXPECT_FALSE(translated.count(g.language)) << discipline;
     EXPECT_EQ(commentTypes, (std::set<uint8_t>{1, 2, 3, 7})) << discipline;

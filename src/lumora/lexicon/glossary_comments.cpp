@@ -17,10 +17,9 @@ template <typename BracketsOf>
 std::u16string JoinComments(const SetTable<GloCommentRecord>& comments, uint16_t fnId,
                             BracketsOf brackets_of) {
   std::u16string text;
-  // The comment records hold their type in the field the file calls language.
   for (auto it = comments.Range({fnId, 0}, {fnId, 0}).first;
        it != comments.end() && it->fnId == fnId; ++it) {
-    const Brackets brackets = brackets_of(it->language);
+    const Brackets brackets = brackets_of(it->commentType);
     if (brackets.first == 0) continue;
     text.append(1, brackets.first).append(it->comment).append(1, brackets.second).push_back(u' ');
   }

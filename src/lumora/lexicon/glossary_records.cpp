@@ -63,7 +63,7 @@ void GloFNTranslationRecord::Serialize(Archive& ar, uint32_t) {
 
 void GloCommentRecord::Serialize(Archive& ar, uint32_t) {
   ar.Io(fnId);
-  ar.Io(language);
+  ar.Io(commentType);
   IoText(ar, comment);
 }
 

@@ -107,14 +107,14 @@ struct GloFNTranslationRecord {
   void Serialize(Archive& ar, uint32_t schema);
 };
 
-// t_Glo_Comments: ordered by word first. The language part is a byte, so comparing it
+// t_Glo_Comments: ordered by word first. The comment type is a byte, so comparing it
 // unsigned gives the same order as comparing it widened to a signed 32-bit number.
 struct GloCommentRecord {
   uint16_t fnId = 0;
-  uint8_t language = 0;
+  uint8_t commentType = 0;
   RecordText comment;
 
-  std::tuple<uint16_t, uint8_t> Key() const { return {fnId, language}; }
+  std::tuple<uint16_t, uint8_t> Key() const { return {fnId, commentType}; }
   void Serialize(Archive& ar, uint32_t schema);
 };
 
