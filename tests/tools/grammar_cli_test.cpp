@@ -4,39 +4,24 @@
 #include <nlohmann/json.hpp>
 
 #include "fixtures/run_cli.h"
-#include "fixtures/temp_dir.h"
-#include "sample/sample_content.h"
+#include "fixtures/sample_suite.h"
 
 namespace lumora::testing {
 namespace {
 
 using nlohmann::json;
 
-class GrammarCli : public ::testing::Test {
+class GrammarCli : public SampleContentSuite {
  protected:
-  static void SetUpTestSuite() {
-    dir_ = new TempDir;
-    std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(dir_->path(), {1}, &error)) << error;
-  }
-  static void TearDownTestSuite() {
-    delete dir_;
-    dir_ = nullptr;
-  }
-
   static CliResult Grammar(const std::string& args) {
-    return RunCli("grammar " + dir_->path() + " -d 1 " + args);
+    return RunCli("grammar " + root() + " -d 1 " + args);
   }
   static json Json(const std::string& args) {
     const CliResult result = Grammar(args + " --json");
     EXPECT_EQ(result.exit_code, 0) << args;
     return json::parse(result.out);
   }
-
-  static TempDir* dir_;
 };
-
-TempDir* GrammarCli::dir_ = nullptr;
 
 TEST_F(GrammarCli, PointShowsEverythingThePointHolds) {
   const json point = Json("point 1");

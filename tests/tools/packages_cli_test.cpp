@@ -4,34 +4,19 @@
 #include <nlohmann/json.hpp>
 
 #include "fixtures/run_cli.h"
-#include "fixtures/temp_dir.h"
-#include "sample/sample_content.h"
+#include "fixtures/sample_suite.h"
 
 namespace lumora::testing {
 namespace {
 
 using nlohmann::json;
 
-class PackagesCli : public ::testing::Test {
+class PackagesCli : public SampleContentSuite {
  protected:
-  static void SetUpTestSuite() {
-    dir_ = new TempDir;
-    std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(dir_->path(), {1}, &error)) << error;
-  }
-  static void TearDownTestSuite() {
-    delete dir_;
-    dir_ = nullptr;
-  }
-
   static CliResult Packages(const std::string& args) {
-    return RunCli("packages " + dir_->path() + " " + args);
+    return RunCli("packages " + root() + " " + args);
   }
-
-  static TempDir* dir_;
 };
-
-TempDir* PackagesCli::dir_ = nullptr;
 
 TEST_F(PackagesCli, PackagesWithTheirTitlesInEveryLanguage) {
   const CliResult result = Packages("-d 2 --json");
@@ -58,8 +43,8 @@ TEST_F(PackagesCli, ResourceRowsOfTheNamedPackages) {
       {"package":3,"type":1005,"item":1048578}])"));
   // Every listed resource exists in the sample.
   for (const auto& row : json::parse(result.out)) {
-    const CliResult resource = RunCli("resource " + dir_->path() + " -d 1 --type " +
-                                      row["type"].dump() + " --id " + row["item"].dump());
+    const CliResult resource = RunCli("resource " + root() + " -d 1 --type " + row["type"].dump() +
+                                      " --id " + row["item"].dump());
     EXPECT_EQ(resource.exit_code, 0) << row;
   }
 }
