@@ -1,35 +1,43 @@
 #include <lumora/lexicon/set_fields.h>
+#include <lumora/platform/typed_array.h>
 
 namespace lumora {
 
-void IoText(Archive& ar, std::u16string& text) {
-  if (ar.IsStoring()) {
-    ar.WriteU32(static_cast<uint32_t>(text.size()));
-    for (char16_t unit : text) ar.WriteU16(unit);
-    return;
-  }
-  const uint32_t length = ar.ReadU32();
-  ar.Require(uint64_t{length} * 2);
-  text.resize(length);
-  // One read for the whole text, then each unit decoded where it landed.
-  ar.Read(text.data(), size_t{length} * 2);
-  for (char16_t& unit : text) unit = DecodeU16(reinterpret_cast<const uint8_t*>(&unit));
+namespace {
+
+void WriteText(Archive& ar, std::u16string_view text) {
+  ar.WriteU32(static_cast<uint32_t>(text.size()));
+  for (char16_t unit : text) ar.WriteU16(unit);
 }
 
-void IoText(Archive& ar, RecordText& text) {
-  if (ar.IsStoring()) {
-    ar.WriteU32(text.size());
-    for (char16_t unit : text.view()) ar.WriteU16(unit);
-    return;
-  }
+// The stored length of a text, refused when the units cannot all be there.
+uint32_t ReadTextLength(Archive& ar) {
   const uint32_t length = ar.ReadU32();
   ar.Require(uint64_t{length} * 2);
-  char16_t* units = text.Resize(length);
+  return length;
+}
+
+// One read for the whole text, then each unit decoded where it landed.
+void ReadUnits(Archive& ar, char16_t* units, uint32_t length) {
   if (length == 0) return;
   ar.Read(units, size_t{length} * 2);
   for (uint32_t i = 0; i < length; ++i) {
     units[i] = DecodeU16(reinterpret_cast<const uint8_t*>(units + i));
   }
+}
+
+}  // namespace
+
+void IoText(Archive& ar, std::u16string& text) {
+  if (ar.IsStoring()) return WriteText(ar, text);
+  text.resize(ReadTextLength(ar));
+  ReadUnits(ar, text.data(), static_cast<uint32_t>(text.size()));
+}
+
+void IoText(Archive& ar, RecordText& text) {
+  if (ar.IsStoring()) return WriteText(ar, text);
+  const uint32_t length = ReadTextLength(ar);
+  ReadUnits(ar, text.Resize(length), length);
 }
 
 void IoU32List(Archive& ar, U32List& values) {
@@ -46,7 +54,6 @@ void IoU32List(Archive& ar, U32List& values) {
 }
 
 void IoByteList(Archive& ar, ByteList& bytes) {
-  constexpr uint32_t kKeepGrowBy = 0xFFFFFFFF;
   if (ar.IsStoring()) {
     ar.WriteU32(1);
     ar.WriteU32(bytes.size());
@@ -57,7 +64,7 @@ void IoByteList(Archive& ar, ByteList& bytes) {
   ar.ReadU32();  // the element size, always 1
   const uint32_t count = ar.ReadU32();
   const uint32_t growBy = ar.ReadU32();
-  if (growBy != kKeepGrowBy) bytes.growBy = growBy;
+  if (growBy != ByteArray::kKeepGrowBy) bytes.growBy = growBy;
   ar.Require(count);
   bytes.resize(count);
   ar.Read(bytes.data(), count);
