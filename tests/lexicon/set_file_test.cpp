@@ -25,7 +25,7 @@ using testing::U32;
 
 struct Word {
   uint16_t id = 0;
-  std::u16string text;
+  RecordText text;
   uint16_t Key() const { return id; }
   void Serialize(Archive& ar, uint32_t) {
     ar.Io(id);

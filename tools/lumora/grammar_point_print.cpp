@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::string Text(const std::u16string& text) { return Utf16ToUtf8(text); }
+std::string Text(std::u16string_view text) { return Utf16ToUtf8(text); }
 
 Json TitlesJson(const CGramV6& g, uint16_t point) {
   Json titles = Json::array();

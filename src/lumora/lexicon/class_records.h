@@ -15,7 +15,7 @@ namespace lumora {
 template <typename Id>
 struct ClassRecord {
   Id id = 0;
-  std::u16string label;
+  RecordText label;
   uint16_t value = 0;  // kept and handed back as read; nothing here interprets it
 
   Id Key() const { return id; }
@@ -30,11 +30,11 @@ inline constexpr size_t kCatGramLanguages = 10;
 
 struct CatGramRecord : ClassRecord<uint32_t> {
   // Entry 0 is kept and saved but never chosen by a language; see getCatGramLabel.
-  std::array<std::u16string, kCatGramLanguages> labels;
+  std::array<RecordText, kCatGramLanguages> labels;
 
   void Serialize(Archive& ar, uint32_t schema) {
     ClassRecord<uint32_t>::Serialize(ar, schema);
-    for (std::u16string& text : labels) IoText(ar, text);
+    for (RecordText& text : labels) IoText(ar, text);
   }
 };
 

@@ -63,7 +63,7 @@ std::u16string Classification::getCatGramLabel(uint32_t language, uint32_t id) c
   const CatGramRecord* record = catGram.Find(id);
   if (record == nullptr) return {};
   const std::optional<size_t> entry = CatGramLabelEntry(language);
-  return entry ? record->labels[*entry] : std::u16string();
+  return entry ? record->labels[*entry].str() : std::u16string();
 }
 
 bool Classification::getSyntacticFunctionLabels(ClassLabelMap& labels, uint32_t) const {

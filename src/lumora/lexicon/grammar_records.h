@@ -17,7 +17,7 @@ struct GrPointsRecord {
   uint16_t pointId = 0;
   uint8_t attrA = 0;
   uint8_t flag = 0;
-  std::u16string name;
+  RecordText name;
 
   uint16_t Key() const { return pointId; }
   void Serialize(Archive& ar, uint32_t) {
@@ -32,7 +32,7 @@ struct GrPointsRecord {
 struct GrTitlesRecord {
   uint16_t pointId = 0;
   uint8_t language = 0;
-  std::u16string title;
+  RecordText title;
 
   std::tuple<uint16_t, uint8_t> Key() const { return {pointId, language}; }
   void Serialize(Archive& ar, uint32_t) {
@@ -100,7 +100,7 @@ struct GrPartsRecord {
 struct GrSubpointTitlesRecord {
   uint32_t subpointId = 0;
   uint8_t language = 0;
-  std::u16string title;
+  RecordText title;
 
   std::tuple<uint32_t, uint8_t> Key() const { return {subpointId, language}; }
   void Serialize(Archive& ar, uint32_t) {
@@ -114,7 +114,7 @@ struct GrSubpointTitlesRecord {
 // keywordId / 100 is the subpoint and keywordId / 100000 the point.
 struct GrKeywordsRecord {
   uint32_t keywordId = 0;
-  std::u16string keyword;
+  RecordText keyword;
 
   uint32_t Key() const { return keywordId; }
   void Serialize(Archive& ar, uint32_t) {
@@ -147,7 +147,7 @@ struct GrBubblesRecord {
   uint16_t pointId = 0;
   uint8_t attrB = 0;
   uint8_t attrC = 0;
-  std::u16string text;
+  RecordText text;
 
   std::tuple<uint8_t, uint16_t, uint8_t, uint8_t> Key() const {
     return {language, pointId, attrB, attrC};

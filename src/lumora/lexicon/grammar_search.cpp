@@ -7,8 +7,8 @@ namespace lumora {
 namespace {
 
 // Exact code units, case included.
-bool Contains(const std::u16string& text, const std::u16string& query) {
-  return text.find(query) != std::u16string::npos;
+bool Contains(std::u16string_view text, std::u16string_view query) {
+  return text.find(query) != std::u16string_view::npos;
 }
 
 }  // namespace

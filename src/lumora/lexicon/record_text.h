@@ -1,7 +1,8 @@
-// A text inside a glossary record. A glossary holds up to 65,534 words, each with several texts
-// (its written form, translations, sound and reco texts), many of them empty; as a string
-// object each would cost 32 bytes before its units. This one is a single pointer to one heap
-// block holding the length and the UTF-16 units, and no block at all when empty.
+// A text inside a set-file record. A glossary holds up to 65,534 words, each with several texts
+// (its written form, translations, sound and reco texts), many of them empty, and a grammar or
+// classification tens of thousands of titles and labels; as a string object each would cost 32
+// bytes before its units. This one is a single pointer to one heap block holding the length and
+// the UTF-16 units, and no block at all when empty.
 #pragma once
 
 #include <cstdint>

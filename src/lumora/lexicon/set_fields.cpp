@@ -3,41 +3,21 @@
 
 namespace lumora {
 
-namespace {
-
-void WriteText(Archive& ar, std::u16string_view text) {
-  ar.WriteU32(static_cast<uint32_t>(text.size()));
-  for (char16_t unit : text) ar.WriteU16(unit);
-}
-
-// The stored length of a text, refused when the units cannot all be there.
-uint32_t ReadTextLength(Archive& ar) {
+void IoText(Archive& ar, RecordText& text) {
+  if (ar.IsStoring()) {
+    ar.WriteU32(text.size());
+    for (char16_t unit : text.view()) ar.WriteU16(unit);
+    return;
+  }
   const uint32_t length = ar.ReadU32();
   ar.Require(uint64_t{length} * 2);
-  return length;
-}
-
-// One read for the whole text, then each unit decoded where it landed.
-void ReadUnits(Archive& ar, char16_t* units, uint32_t length) {
+  char16_t* units = text.Resize(length);
   if (length == 0) return;
+  // One read for the whole text, then each unit decoded where it landed.
   ar.Read(units, size_t{length} * 2);
   for (uint32_t i = 0; i < length; ++i) {
     units[i] = DecodeU16(reinterpret_cast<const uint8_t*>(units + i));
   }
-}
-
-}  // namespace
-
-void IoText(Archive& ar, std::u16string& text) {
-  if (ar.IsStoring()) return WriteText(ar, text);
-  text.resize(ReadTextLength(ar));
-  ReadUnits(ar, text.data(), static_cast<uint32_t>(text.size()));
-}
-
-void IoText(Archive& ar, RecordText& text) {
-  if (ar.IsStoring()) return WriteText(ar, text);
-  const uint32_t length = ReadTextLength(ar);
-  ReadUnits(ar, text.Resize(length), length);
 }
 
 void IoU32List(Archive& ar, U32List& values) {

@@ -13,7 +13,6 @@
 namespace lumora {
 
 // u32 count of UTF-16 code units, then the units little-endian; no terminator.
-void IoText(Archive& ar, std::u16string& text);
 void IoText(Archive& ar, RecordText& text);
 
 // u32 count, then the values.
