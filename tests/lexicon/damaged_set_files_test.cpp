@@ -68,7 +68,9 @@ TEST(DamagedSetFiles, FetchThroughDamagedIndexFailsCleanly) {
   SetTable<GloRecoRecord> recos;
   recos.Insert({1, 2, 3, u"a", u"b"});
   recos.Insert({3, 2, 3, u"c", u""});
-  ASSERT_TRUE(SaveIndexedSetTable(dir.path(), u"t_Glo_Reco1600", recos, true, 2, nullptr));
+  FolderCommit commit(dir.path());
+  StageIndexedSetTable(commit, dir.path(), u"t_Glo_Reco1600", recos, true, 2, nullptr);
+  ASSERT_TRUE(commit.Commit().ok());
   const std::string good = dir.Read("t_Glo_Reco1600.set");
   DWordArray offsets;
   int32_t version = 0;

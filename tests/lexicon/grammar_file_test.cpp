@@ -3,6 +3,8 @@
 #include <lumora/support/paths.h>
 #include <lumora/support/share_file.h>
 
+#include <lumora/platform/write_status.h>
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -91,24 +93,16 @@ TEST(GrammarFile, LoadStopsAtTheFirstFailingTable) {
   EXPECT_EQ(missing.folder, dir.path() + "nowhere/");
 }
 
-TEST(GrammarFile, SaveStopsAtTheFirstTableItCannotWrite) {
+// One table that cannot be replaced stops the whole save before anything is written.
+TEST(GrammarFile, SaveWritesNothingWhenOneTableCannotBeReplaced) {
   testing::TempDir dir;
-  // A folder where the subpoints' file belongs cannot be opened for writing.
   ASSERT_TRUE(CreateFolderPath(dir.path() + "t_Gr_Subpoints.set/"));
-  SetSaveRetry& retry = SetSaveRetrySettings();
-  const SetSaveRetry saved_retry = retry;
-  const ShareFileSettings saved_open = ShareFileRetrySettings();
-  retry.shouldRetry = [](uint32_t, uint32_t) { return false; };
-  ShareFileRetrySettings() = {1, 0, 0};
   CGramV6 g = testing::GrammarWithOneOfEach();
   g.setFolder(dir.path());
-  const bool ok = g.save();
-  retry = saved_retry;
-  ShareFileRetrySettings() = saved_open;
-  EXPECT_FALSE(ok);
-  EXPECT_TRUE(FileExists(dir.path() + "t_Gr_Pictures.set"));
-  EXPECT_FALSE(FileExists(dir.path() + "t_Gr_Parts.set"));
-  EXPECT_FALSE(FileExists(dir.path() + "t_Gr_Bubbles.set"));
+  EXPECT_FALSE(g.save());
+  EXPECT_EQ(LastWriteFailure().path(), dir.path() + "t_Gr_Subpoints.set");
+  EXPECT_FALSE(FileExists(dir.path() + "t_Gr_Points.set"));
+  EXPECT_FALSE(FileExists(dir.path() + "CRCFile.ini"));
 }
 
 }  // namespace

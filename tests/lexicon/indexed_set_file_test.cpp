@@ -45,8 +45,10 @@ class IndexedSetFile : public ::testing::Test {
     return profile::GetString(dir.path() + xCRCFile2::kListName, "Main", key, "");
   }
   bool Save(bool with_index, int32_t index_version = 2, const ByteArray* qualities = nullptr) {
-    return SaveIndexedSetTable(dir.path(), u"t_Glo_Sounds", sounds, with_index, index_version,
-                               qualities);
+    FolderCommit commit(dir.path());
+    StageIndexedSetTable(commit, dir.path(), u"t_Glo_Sounds", sounds, with_index, index_version,
+                         qualities);
+    return commit.Commit().ok();
   }
   bool Load(bool with_index) {
     return LoadIndexedSetTable(dir.path(), u"t_Glo_Sounds", with_index, sounds, indexVersion,
@@ -119,7 +121,9 @@ TEST_F(IndexedSetFile, RecoRecordsArePresentWithStatusThree) {
   SetTable<GloRecoRecord> recos;
   recos.Insert({1, 0, 3, u"", u""});
   recos.Insert({2, 0, 4, u"", u""});
-  ASSERT_TRUE(SaveIndexedSetTable(dir.path(), u"t_Glo_Reco1600", recos, true, 2, nullptr));
+  FolderCommit commit(dir.path());
+  StageIndexedSetTable(commit, dir.path(), u"t_Glo_Reco1600", recos, true, 2, nullptr);
+  ASSERT_TRUE(commit.Commit().ok());
   EXPECT_EQ(dir.Read("t_Glo_Reco1600.idx"), AsString(Index({kNone, 8, kNone})));
   EXPECT_EQ(Listed("Version_t_Glo_Reco1600.idx"), "2");
 }

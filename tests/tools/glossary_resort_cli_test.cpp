@@ -6,10 +6,12 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "fixtures/fault_sweep.h"
 #include "fixtures/run_cli.h"
 #include "fixtures/temp_dir.h"
 #include "lexicon/glossary_fixture.h"
@@ -78,6 +80,29 @@ TEST_F(GlossaryResortCli, ShowsTheRebuiltLettersAndSavesOnlyWhenAsked) {
 
 TEST_F(GlossaryResortCli, UnknownDisciplineFails) {
   EXPECT_EQ(RunCli("glossary " + dir_.path() + " -d 8 resort").exit_code, 1);
+}
+
+// The tool killed at disk step after disk step of its save: the next command that reads the
+// glossary finds the old tables or the rebuilt ones, every checksum good, nothing left over.
+TEST_F(GlossaryResortCli, KilledAtAnyStepOfTheSaveLeavesOldOrNewTables) {
+  const FolderFiles old_files = SnapshotFolder(folder());
+  ASSERT_EQ(Resort("--write").exit_code, 0);
+  const FolderFiles new_files = SnapshotFolder(folder());
+  ASSERT_NE(new_files, old_files);
+  int killed = 0;
+  for (int step = 1; step < 100; step += 2) {
+    RestoreFolder(folder(), old_files);
+    ::setenv("LUMORA_KILL_AT_STEP", std::to_string(step).c_str(), 1);
+    const CliResult run = Resort("--write");
+    ::unsetenv("LUMORA_KILL_AT_STEP");
+    if (run.exit_code == 0) break;
+    ++killed;
+    EXPECT_EQ(RunCli("glossary " + dir_.path() + " -d 7 letters --json").exit_code, 0);
+    const FolderFiles now = SnapshotFolder(folder());
+    EXPECT_TRUE(now == old_files || now == new_files) << "killed at step " << step;
+    EXPECT_EQ(ChecksumMismatches(folder()), "") << "killed at step " << step;
+  }
+  EXPECT_GT(killed, 10);
 }
 
 }  // namespace

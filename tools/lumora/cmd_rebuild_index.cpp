@@ -2,6 +2,7 @@
 // discipline's resource files and writes its index files anew. Overwriting the discipline's own
 // index files takes --in-place, so that a trial run never replaces them by accident.
 #include <lumora/frame/library_state.h>
+#include <lumora/resources/index_rebuild.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
 
@@ -12,6 +13,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "commands.h"
 #include "content_args.h"
@@ -39,14 +41,32 @@ std::string IndexFolder(const Options& options, const Discipline& discipline) {
   return folder;
 }
 
-nlohmann::ordered_json Rebuild(uint32_t type, const std::string& local_root,
-                               const std::string& folder) {
-  nlohmann::ordered_json out{{"type", type}, {"ok", BuildTypeIndex(type, local_root, folder)}};
+nlohmann::ordered_json Described(uint32_t type, bool built, const std::string& folder) {
+  nlohmann::ordered_json out{{"type", type}, {"ok", built}};
   std::unique_ptr<TypeIndex> index = NewTypeIndex(type);
   const auto indexed = index->Load(IndexFilePath(folder, type)) ? NumbersOf(*index) : std::nullopt;
   out["groups"] = indexed ? indexed->groups : 0;
   out["entries"] = indexed ? indexed->numbers.size() : 0;
   return out;
+}
+
+// In place, every index file is replaced in one commit; elsewhere each is written on its own.
+std::vector<TypeRebuild> RebuildAll(const Options& options, const Discipline& discipline,
+                                    const std::string& folder) {
+  std::vector<uint32_t> types;
+  for (uint32_t type : kExerciseTypes) {
+    if (!options.type || *options.type == type) types.push_back(type);
+  }
+  std::vector<TypeRebuild> results;
+  if (options.inPlace) {
+    const WriteStatus saved = RebuildIndexesInPlace(discipline.localRoot, folder, types, results);
+    if (!saved.ok()) throw CommandFailure("nothing was replaced: " + saved.ToString());
+    return results;
+  }
+  for (uint32_t type : types) {
+    results.push_back({type, BuildTypeIndex(type, discipline.localRoot, folder)});
+  }
+  return results;
 }
 
 void Run(const Options& options) {
@@ -60,10 +80,9 @@ void Run(const Options& options) {
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();
   bool all_ok = true;
-  for (uint32_t type : kExerciseTypes) {
-    if (options.type && *options.type != type) continue;
-    results.push_back(Rebuild(type, discipline.localRoot, folder));
-    all_ok = all_ok && results.back()["ok"] == true;
+  for (const TypeRebuild& rebuilt : RebuildAll(options, discipline, folder)) {
+    results.push_back(Described(rebuilt.type, rebuilt.built, folder));
+    all_ok = all_ok && rebuilt.built;
   }
   if (options.json) {
     std::cout << results.dump(2) << '\n';

@@ -2,7 +2,6 @@
 // order and letter index from its written forms and shows the letters; --write saves the
 // headwords, the order and the letters back into the glossary folder.
 #include <lumora/lexicon/glossary_rebuild.h>
-#include <lumora/lexicon/set_file.h>
 #include <lumora/lumora.h>
 #include <lumora/support/utf8.h>
 
@@ -18,13 +17,6 @@
 
 namespace lumora::cli {
 namespace {
-
-// The three tables the rebuild changes, each through the checksummed save.
-bool SaveRebuiltTables(CGloV6& g) {
-  return WriteSetTable(g.folder, u"t_Glo_FNs", SetFamily::kGlossary, g.fns) &&
-         WriteSetTable(g.folder, u"t_Glo_FNSorted", SetFamily::kGlossary, g.sorted) &&
-         WriteSetTable(g.folder, u"t_Glo_FNLetter", SetFamily::kGlossary, g.letters);
-}
 
 void PrintLetters(const CGloV6& g, bool written, bool json) {
   if (json) {
@@ -54,8 +46,9 @@ void Resort(const GlossaryTarget& target, bool write) {
   CGloV6* glossary = lmGetGlossary(&request);
   if (glossary == nullptr) throw CommandFailure("discipline has no glossary");
   if (!rebuildSortAndLetters(*glossary)) throw CommandFailure("a rebuild is already running");
-  if (write && !SaveRebuiltTables(*glossary)) {
-    throw CommandFailure("cannot save the glossary in " + glossary->folder);
+  if (write) {
+    const WriteStatus saved = SaveSortAndLetters(*glossary);
+    if (!saved.ok()) throw CommandFailure("the glossary was not saved: " + saved.ToString());
   }
   PrintLetters(*glossary, write, target.json);
 }

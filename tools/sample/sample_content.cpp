@@ -1,5 +1,7 @@
 #include "sample/sample_content.h"
 
+#include <lumora/platform/atomic_write.h>
+
 #include <lumora/support/paths.h>
 
 #include "sample/sample_classes.h"
@@ -49,12 +51,17 @@ bool WriteSampleContent(const std::string& dir, const SampleOptions& options, st
     *error = "cannot create folder " + root;
     return false;
   }
+  // A new tree of many files: each is renamed into place whole, and the tree is flushed to
+  // disk once at the end instead of file by file.
+  DeferredFlush flush(root);
   // Content.ini names no Local root of its own, so the content root is the common one.
   if (!WriteContentIni(root, error) || !WriteSampleClassification(root, error)) return false;
   for (const SampleDiscipline& d : kSampleDisciplines) {
     if (!WriteDiscipline(root + DisciplineFolder(d.id), d, options.scale, error)) return false;
   }
-  return true;
+  const WriteStatus flushed = flush.Finish();
+  if (!flushed.ok()) *error = flushed.ToString();
+  return flushed.ok();
 }
 
 }  // namespace lumora::sample

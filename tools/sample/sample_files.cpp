@@ -1,10 +1,9 @@
 #include "sample/sample_files.h"
 
+#include <lumora/platform/atomic_write.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/support/paths.h>
-
-#include <fstream>
 
 namespace lumora::sample {
 namespace {
@@ -19,17 +18,17 @@ bool CreateFolderOf(const std::string& path, std::string* error) {
 
 bool WriteBytesFile(const std::string& path, const std::string& bytes, std::string* error) {
   if (!CreateFolderOf(path, error)) return false;
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << bytes;
-  if (file.flush()) return true;
-  *error = "cannot write " + path;
+  const WriteStatus written = WriteFileAtomically(path, bytes);
+  if (written.ok()) return true;
+  *error = written.ToString();
   return false;
 }
 
 bool StoreObjectFile(const std::string& path, Object& object, std::string* error) {
   if (!CreateFolderOf(path, error)) return false;
+  ClearWriteFailure();
   if (LoadArchiveFile(path, true, object)) return true;
-  *error = "cannot write " + path;
+  *error = LastWriteFailure().ok() ? "cannot write " + path : LastWriteFailure().ToString();
   return false;
 }
 

@@ -2,6 +2,8 @@
 // table's name in the classification's folder.
 #include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/lexicon/set_file_write.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -14,13 +16,6 @@ bool ReadTable(const Classification& owner, std::u16string_view name, SetTable<R
          version == owner.formatVersion;
 }
 
-template <typename Record>
-bool WriteTable(const Classification& owner, std::u16string_view name, SetTable<Record>& table) {
-  const uint32_t version = owner.formatVersion;
-  return WriteSetFile(SetFilePath(owner.folder, name), version,
-                      [&table, version](Archive& ar) { table.WriteRecords(ar, version); });
-}
-
 }  // namespace
 
 void Classification::SetFolder(const std::string& folder_path) {
@@ -29,21 +24,27 @@ void Classification::SetFolder(const std::string& folder_path) {
 
 bool Classification::load(const std::string& folder_path) {
   SetFolder(folder_path);
+  FolderReadScope scope(folder);
   return ReadTable(*this, u"t_FamSem", famSem) && ReadTable(*this, u"t_CatGram", catGram) &&
          ReadTable(*this, u"t_GrammarPoint_Category", grammarPointCategories) &&
          ReadTable(*this, u"t_Verb_Tense", verbTenses) &&
          ReadTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions);
 }
 
-// Unlike loading, a failed table does not stop the others: each one written is one fewer to
-// redo.
+// The five tables replace the old ones in one commit, or none does.
 bool Classification::save() {
-  bool saved = WriteTable(*this, u"t_FamSem", famSem);
-  saved = WriteTable(*this, u"t_CatGram", catGram) && saved;
-  saved = WriteTable(*this, u"t_GrammarPoint_Category", grammarPointCategories) && saved;
-  saved = WriteTable(*this, u"t_Verb_Tense", verbTenses) && saved;
-  saved = WriteTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions) && saved;
-  return saved;
+  try {
+    FolderCommit commit(folder);
+    StageSetTable(commit, u"t_FamSem", formatVersion, famSem);
+    StageSetTable(commit, u"t_CatGram", formatVersion, catGram);
+    StageSetTable(commit, u"t_GrammarPoint_Category", formatVersion, grammarPointCategories);
+    StageSetTable(commit, u"t_Verb_Tense", formatVersion, verbTenses);
+    StageSetTable(commit, u"t_Expression_SyntacticFunction", formatVersion, syntacticFunctions);
+    return CommitSaved(commit);
+  } catch (const std::exception& error) {
+    WriteStatus::Failure(folder, error.what());
+    return false;
+  }
 }
 
 }  // namespace lumora

@@ -1,6 +1,8 @@
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/indexed_set_file.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/lexicon/set_file_write.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -26,6 +28,7 @@ std::string CGloBase::getErrors() const {
 
 bool CGloV6::load(const std::string& folder_path) {
   setFolder(folder_path);
+  FolderReadScope scope(folder);
   // A table that reads its set file leaves the version it was read with; one that fails before
   // its version was accepted, or reads only its index, leaves the previous one.
   auto read = [&](std::u16string_view name, auto& table) {
@@ -52,18 +55,32 @@ bool CGloV6::load(const std::string& folder_path) {
 
 void CGloV6::setFolder(const std::string& folder_path) { folder = WithBackslash(folder_path); }
 
+// Every table, the two indexes and their versions replace the old ones in one commit: a
+// glossary is never left with tables from two different saves.
 bool CGloV6::save(bool withIndex, const std::vector<uint32_t>& qualities) {
   const ByteArray folders = QualityFolders(qualities);
   const ByteArray* needed = qualities.empty() ? nullptr : &folders;
-  auto write = [this](std::u16string_view name, auto& table) {
-    return WriteSetTable(folder, name, SetFamily::kGlossary, table);
-  };
-  return write(u"t_Glo_FNs", fns) && write(u"t_Glo_Writings", writings) &&
-         write(u"t_Glo_Links", links) && write(u"t_Glo_Cloud1600", clouds) &&
-         SaveIndexedSetTable(folder, kSoundTable, sounds, withIndex, soundIndexVersion, needed) &&
-         SaveIndexedSetTable(folder, kRecoTable, recos, withIndex, recoIndexVersion, needed) &&
-         write(u"t_Glo_FNTranslations", translations) && write(u"t_Glo_Comments", comments) &&
-         write(u"t_Glo_FNSorted", sorted) && write(u"t_Glo_FNLetter", letters);
+  const uint32_t version = WrittenSetVersion(SetFamily::kGlossary);
+  try {
+    FolderCommit commit(folder);
+    auto stage = [&](std::u16string_view name, auto& table) {
+      StageSetTable(commit, name, version, table);
+    };
+    stage(u"t_Glo_FNs", fns);
+    stage(u"t_Glo_Writings", writings);
+    stage(u"t_Glo_Links", links);
+    stage(u"t_Glo_Cloud1600", clouds);
+    StageIndexedSetTable(commit, folder, kSoundTable, sounds, withIndex, soundIndexVersion, needed);
+    StageIndexedSetTable(commit, folder, kRecoTable, recos, withIndex, recoIndexVersion, needed);
+    stage(u"t_Glo_FNTranslations", translations);
+    stage(u"t_Glo_Comments", comments);
+    stage(u"t_Glo_FNSorted", sorted);
+    stage(u"t_Glo_FNLetter", letters);
+    return CommitSaved(commit);
+  } catch (const std::exception& error) {
+    WriteStatus::Failure(folder, error.what());
+    return false;
+  }
 }
 
 }  // namespace lumora

@@ -2,7 +2,9 @@
 
 #include <lumora/lexicon/headword_collation.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/lexicon/set_file_write.h>
 #include <lumora/platform/codepage.h>
+#include <lumora/support/folder_commit.h>
 
 #include <algorithm>
 #include <string>
@@ -104,6 +106,19 @@ bool rebuildSortAndLetters(CGloV6& g) {
   if (g.fns.empty()) ReadHeadwords(g);
   SetLetterIds(g, words, letterIds);
   return true;
+}
+
+WriteStatus SaveSortAndLetters(CGloV6& g) {
+  try {
+    const uint32_t version = WrittenSetVersion(SetFamily::kGlossary);
+    FolderCommit commit(g.folder);
+    StageSetTable(commit, u"t_Glo_FNs", version, g.fns);
+    StageSetTable(commit, u"t_Glo_FNSorted", version, g.sorted);
+    StageSetTable(commit, u"t_Glo_FNLetter", version, g.letters);
+    return commit.Commit();
+  } catch (const std::exception& error) {
+    return WriteStatus::Failure(g.folder, error.what());
+  }
 }
 
 }  // namespace lumora

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <lumora/lexicon/glossary.h>
+#include <lumora/platform/write_status.h>
 
 namespace lumora {
 
@@ -10,5 +11,9 @@ namespace lumora {
 // falls in; other words keep theirs. Only one rebuild runs at a time in the library: a rebuild
 // started while another runs (from a Notify handler, say) returns false and changes nothing.
 bool rebuildSortAndLetters(CGloV6& g);
+
+// Saves the three tables a rebuild changes (headwords, order, letters) into the glossary's
+// folder, together with their checksums or not at all.
+WriteStatus SaveSortAndLetters(CGloV6& g);
 
 }  // namespace lumora

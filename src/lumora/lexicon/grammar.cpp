@@ -1,5 +1,7 @@
 #include <lumora/lexicon/grammar.h>
 #include <lumora/lexicon/set_file.h>
+#include <lumora/lexicon/set_file_write.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -23,6 +25,7 @@ bool CGramV6::ForEachTable(Visit&& visit) {
 
 bool CGramV6::load(const std::string& folder_path) {
   setFolder(folder_path);
+  FolderReadScope scope(folder);
   return ForEachTable([this](std::u16string_view name, auto& table) {
     return ReadSetTable(folder, name, SetFamily::kGrammar, table);
   });
@@ -30,12 +33,19 @@ bool CGramV6::load(const std::string& folder_path) {
 
 void CGramV6::setFolder(const std::string& folder_path) { folder = WithBackslash(folder_path); }
 
+// All nine tables replace the old ones in one commit, or none does.
 bool CGramV6::save() {
-  return ForEachTable([this](std::u16string_view name, auto& table) {
-    const auto version = static_cast<uint32_t>(formatVersion);
-    return WriteSetFile(SetFilePath(folder, name), version,
-                        [&](Archive& ar) { table.WriteRecords(ar, version); });
-  });
+  try {
+    FolderCommit commit(folder);
+    ForEachTable([&](std::u16string_view name, auto& table) {
+      StageSetTable(commit, name, static_cast<uint32_t>(formatVersion), table);
+      return true;
+    });
+    return CommitSaved(commit);
+  } catch (const std::exception& error) {
+    WriteStatus::Failure(folder, error.what());
+    return false;
+  }
 }
 
 }  // namespace lumora

@@ -6,7 +6,6 @@
 #include <lumora/support/xcrc_file2.h>
 
 #include <cstdio>
-#include <exception>
 #include <vector>
 
 namespace lumora {
@@ -30,34 +29,6 @@ bool ReadWhole(const std::string& path, std::vector<uint8_t>& bytes) {
   return true;
 }
 
-bool TryWriteIndexed(const std::string& set_path, const std::string& index_path,
-                     const std::function<void(Archive&, SetIndexEntries&)>& write_records) {
-  if (!FolderTakesNewFile(set_path)) return false;
-  using namespace open_flags;
-  xCRCFile2 set_file(true, true);
-  xCRCFile2 index_file(true, true);
-  if (!set_file.Open(set_path, kCreate | kWrite | kBinary)) return false;
-  if (!index_file.Open(index_path, kCreate | kWrite | kBinary)) return false;
-  bool written = true;
-  try {
-    ChecksummedSink set_sink(set_file);
-    ChecksummedSink index_sink(index_file);
-    Archive set(set_sink, Archive::Mode::kStore);
-    Archive index(index_sink, Archive::Mode::kStore);
-    SetIndexEntries entries(set, set_sink, index);
-    set.WriteU32(WrittenSetVersion(SetFamily::kGlossary));
-    write_records(set, entries);
-    set.Flush();
-    index.Flush();
-    written = set_file.Flush() && index_file.Flush();
-  } catch (const std::exception&) {
-    written = false;
-  }
-  set_file.Close();
-  index_file.Close();
-  return written && set_file.verified() && index_file.verified();
-}
-
 }  // namespace
 
 std::string SetIndexPath(const std::string& folder, std::u16string_view name) {
@@ -69,9 +40,8 @@ int32_t ReadSetIndexVersion(const std::string& folder, std::u16string_view name)
                                               IndexVersionKey(name), kUnrecordedIndexVersion));
 }
 
-bool WriteSetIndexVersion(const std::string& folder, std::u16string_view name) {
-  return profile::WriteString(ChecksumList(folder), xCRCFile2::kListSection, IndexVersionKey(name),
-                              std::to_string(kUsableRecordsIndexVersion));
+void StageSetIndexVersion(FolderCommit& commit, std::u16string_view name) {
+  commit.SetListValue(IndexVersionKey(name), std::to_string(kUsableRecordsIndexVersion));
 }
 
 bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
@@ -117,11 +87,19 @@ void SetIndexEntries::Enter(uint32_t word, bool usable) {
   nextWord_ = word + 1;
 }
 
-bool WriteIndexedSetFile(const std::string& folder, std::u16string_view name,
+void StageIndexedSetFile(FolderCommit& commit, std::u16string_view name,
                          const std::function<void(Archive&, SetIndexEntries&)>& write_records) {
-  const std::string set_path = SetFilePath(folder, name);
-  const std::string index_path = SetIndexPath(folder, name);
-  return RetrySave([&] { return TryWriteIndexed(set_path, index_path, write_records); });
+  StringSink set_sink;
+  StringSink index_sink;
+  Archive set(set_sink, Archive::Mode::kStore);
+  Archive index(index_sink, Archive::Mode::kStore);
+  SetIndexEntries entries(set, set_sink, index);
+  set.WriteU32(WrittenSetVersion(SetFamily::kGlossary));
+  write_records(set, entries);
+  set.Flush();
+  index.Flush();
+  commit.Add(SetFileName(name), set_sink.Take(), true);
+  commit.Add(SetFileName(name, ".idx"), index_sink.Take(), true);
 }
 
 bool FetchSetRecord(const std::string& folder, std::u16string_view name, const DWordArray& offsets,

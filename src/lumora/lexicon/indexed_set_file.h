@@ -10,7 +10,9 @@
 #include <lumora/lexicon/set_file_write.h>
 #include <lumora/lexicon/set_table.h>
 #include <lumora/platform/archive.h>
+#include <lumora/platform/stream.h>
 #include <lumora/platform/typed_array.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/paths.h>
 
 #include <cstdint>
@@ -26,8 +28,9 @@ std::string SetIndexPath(const std::string& folder, std::u16string_view name);
 
 // The index version recorded for table `name` in `folder`; 1 when none is recorded.
 int32_t ReadSetIndexVersion(const std::string& folder, std::u16string_view name);
-// Records that the index of `name` now follows the usable-record rule (version 2).
-bool WriteSetIndexVersion(const std::string& folder, std::u16string_view name);
+// Records, with the rest of `commit`, that the index of `name` follows the usable-record rule
+// (version 2).
+void StageSetIndexVersion(FolderCommit& commit, std::u16string_view name);
 
 // Reads the index of `name`: false when its recorded version is 100 or more (then nothing
 // changes) or the file cannot be opened. Otherwise `version` takes the recorded version and
@@ -50,22 +53,21 @@ bool IsIndexableRecord(const std::string& folder, uint32_t word, bool present,
 // the previous record, then the record's own entry.
 class SetIndexEntries {
  public:
-  SetIndexEntries(Archive& set, const ChecksummedSink& set_sink, Archive& index)
+  SetIndexEntries(Archive& set, const StringSink& set_sink, Archive& index)
       : set_(set), setSink_(set_sink), index_(index) {}
   // Call just before writing the record of `word`; words must come in ascending order.
   void Enter(uint32_t word, bool usable);
 
  private:
   Archive& set_;
-  const ChecksummedSink& setSink_;
+  const StringSink& setSink_;
   Archive& index_;
   uint32_t nextWord_ = 0;
 };
 
-// Writes the set file (glossary version, then what `write_records` writes) and its index in
-// one attempt, retried as a plain save is; true once both files closed with agreeing
-// checksums.
-bool WriteIndexedSetFile(const std::string& folder, std::u16string_view name,
+// Adds the set file (glossary version, then what `write_records` writes) and its index to
+// `commit`, both checksummed.
+void StageIndexedSetFile(FolderCommit& commit, std::u16string_view name,
                          const std::function<void(Archive&, SetIndexEntries&)>& write_records);
 
 // Reads one record of `name` at the offset the index gives `word`, with the newest layout and
@@ -86,16 +88,16 @@ bool LoadIndexedSetTable(const std::string& folder, std::u16string_view name, bo
   return ReadSetTable(folder, name, SetFamily::kGlossary, table, version_read);
 }
 
-// Saves the table, with its index when `with_index` is true, then records index version 2.
-// `index_version` and `qualities` decide which records are usable (IsIndexableRecord).
+// Adds the table to `commit`, with its index when `with_index` is true, and index version 2 to
+// CRCFile.ini. `index_version` and `qualities` decide which records are usable
+// (IsIndexableRecord).
 template <typename Record>
-bool SaveIndexedSetTable(const std::string& folder, std::u16string_view name,
-                         SetTable<Record>& table, bool with_index, int32_t index_version,
-                         const ByteArray* qualities) {
-  bool saved;
+void StageIndexedSetTable(FolderCommit& commit, const std::string& folder, std::u16string_view name,
+                          SetTable<Record>& table, bool with_index, int32_t index_version,
+                          const ByteArray* qualities) {
+  const uint32_t schema = WrittenSetVersion(SetFamily::kGlossary);
   if (with_index) {
-    const uint32_t schema = WrittenSetVersion(SetFamily::kGlossary);
-    saved = WriteIndexedSetFile(folder, name, [&](Archive& set, SetIndexEntries& index) {
+    StageIndexedSetFile(commit, name, [&](Archive& set, SetIndexEntries& index) {
       table.WriteRecords(set, schema, [&](const Record& record) {
         const bool present = record.status == Record::kPresentStatus;
         index.Enter(record.Key(),
@@ -103,10 +105,9 @@ bool SaveIndexedSetTable(const std::string& folder, std::u16string_view name,
       });
     });
   } else {
-    saved = WriteSetTable(folder, name, SetFamily::kGlossary, table);
+    StageSetTable(commit, name, schema, table);
   }
-  if (saved) WriteSetIndexVersion(folder, name);
-  return saved;
+  StageSetIndexVersion(commit, name);
 }
 
 // One record fetched through the index (see FetchSetRecord); `record` changes only on success.

@@ -1,9 +1,9 @@
 #include <lumora/lexicon/read_to_end.h>
 #include <lumora/lexicon/set_file.h>
 #include <lumora/lexicon/set_file_write.h>
-#include <lumora/platform/codepage.h>
 #include <lumora/platform/stream.h>
 #include <lumora/support/crc32.h>
+#include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
 
 #include <new>
@@ -11,8 +11,6 @@
 
 namespace lumora {
 namespace {
-
-constexpr uint32_t kWesternCodePage = 1252;
 
 std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
   std::vector<uint8_t> bytes;
@@ -27,27 +25,6 @@ std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
 bool ReadBytesAreGood(const xCRCFile2& file, const std::vector<uint8_t>& bytes, size_t taken) {
   if (taken == bytes.size()) return file.IsGood();
   return file.expected() == 0 || Crc32(bytes.data(), taken) == file.expected();
-}
-
-bool TryWrite(const std::string& path, uint32_t version,
-              const std::function<void(Archive&)>& write_records) {
-  if (!FolderTakesNewFile(path)) return false;
-  using namespace open_flags;
-  xCRCFile2 file(true, true);
-  if (!file.Open(path, kCreate | kWrite | kBinary)) return false;
-  bool written = true;
-  try {
-    ChecksummedSink sink(file);
-    Archive ar(sink, Archive::Mode::kStore);
-    ar.WriteU32(version);
-    write_records(ar);
-    ar.Flush();
-    written = file.Flush();
-  } catch (const std::exception&) {
-    written = false;
-  }
-  file.Close();
-  return written && file.verified();
 }
 
 }  // namespace
@@ -69,12 +46,7 @@ bool AcceptsSetVersion(SetFamily family, uint32_t version) {
 
 std::string SetFilePath(const std::string& folder, std::u16string_view name,
                         std::string_view extension) {
-  return folder + EncodeCodePage(name, kWesternCodePage) + std::string(extension);
-}
-
-SetSaveRetry& SetSaveRetrySettings() {
-  static SetSaveRetry settings{xCRCFile2::ShouldRetry, 100};
-  return settings;
+  return folder + SetFileName(name, extension);
 }
 
 bool ReadSetFile(const std::string& path, SetFamily family,
@@ -100,7 +72,14 @@ bool ReadSetFile(const std::string& path, SetFamily family,
 
 bool WriteSetFile(const std::string& path, uint32_t version,
                   const std::function<void(Archive&)>& write_records) {
-  return RetrySave([&] { return TryWrite(path, version, write_records); });
+  try {
+    FolderCommit commit(FolderOf(path));
+    commit.Add(path.substr(FolderOf(path).size()), SetFileBytes(version, write_records), true);
+    return CommitSaved(commit);
+  } catch (const std::exception& error) {
+    WriteStatus::Failure(path, error.what());
+    return false;
+  }
 }
 
 }  // namespace lumora

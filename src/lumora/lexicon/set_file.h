@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -27,15 +28,6 @@ bool AcceptsSetVersion(SetFamily family, uint32_t version);
 std::string SetFilePath(const std::string& folder, std::u16string_view name,
                         std::string_view extension = ".set");
 
-// How long a failed save keeps trying: `shouldRetry(attempts made, start tick)`, by default the
-// checksummed file's rule (three attempts at least, then up to 30 s, then 10 s), with
-// `pause_ms` between attempts. Process-wide; the library never changes it, tests shorten it.
-struct SetSaveRetry {
-  std::function<bool(uint32_t, uint32_t)> shouldRetry;
-  uint32_t pause_ms = 100;
-};
-SetSaveRetry& SetSaveRetrySettings();
-
 // Reads the file at `path`: checks its version against `family`, then hands the archive, at
 // the record count, to `read_records` with the version read. True only when everything was
 // read and the checksum of the bytes read matches the recorded one. `version_read` receives
@@ -44,9 +36,9 @@ bool ReadSetFile(const std::string& path, SetFamily family,
                  const std::function<void(Archive&, uint32_t version)>& read_records,
                  uint32_t* version_read = nullptr);
 
-// Writes `version` then whatever `write_records` writes, retrying as SetSaveRetrySettings
-// says; true once an attempt closed with the checksum on disk agreeing with what was written
-// (and recorded in CRCFile.ini). Never throws.
+// Replaces the file with `version` then whatever `write_records` writes, and records its
+// checksum in CRCFile.ini, both or neither (FolderCommit). True once both are on disk; a file
+// held by another process is waited for, any other failure is final. Never throws.
 bool WriteSetFile(const std::string& path, uint32_t version,
                   const std::function<void(Archive&)>& write_records);
 

@@ -1,6 +1,7 @@
 #include <lumora/lexicon/set_file_check.h>
 #include <lumora/platform/ascii_text.h>
 #include <lumora/platform/coding.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
@@ -56,6 +57,8 @@ SetFileCheck CheckSetFile(const std::string& path) {
 }
 
 std::optional<std::vector<SetFileCheck>> CheckSetFolder(const std::string& folder) {
+  // The folder as any reader sees it: a save a crash interrupted is finished first.
+  FolderReadScope scope(WithBackslash(folder));
   const std::optional<std::vector<FolderEntry>> entries = ListFolder(folder);
   if (!entries) return std::nullopt;
   const std::string prefix = WithBackslash(folder);

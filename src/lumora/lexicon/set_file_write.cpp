@@ -1,25 +1,27 @@
-#include <lumora/lexicon/set_file.h>
 #include <lumora/lexicon/set_file_write.h>
-#include <lumora/platform/tick.h>
-#include <lumora/support/paths.h>
-
-#include <unistd.h>
+#include <lumora/platform/codepage.h>
+#include <lumora/platform/stream.h>
 
 namespace lumora {
+namespace {
 
-bool FolderTakesNewFile(const std::string& path) {
-  const std::string folder = FolderOf(path);
-  return ::access(folder.empty() ? "." : folder.c_str(), W_OK) == 0;
+constexpr uint32_t kWesternCodePage = 1252;
+
+}  // namespace
+
+std::string SetFileName(std::u16string_view name, std::string_view extension) {
+  return EncodeCodePage(name, kWesternCodePage) + std::string(extension);
 }
 
-bool RetrySave(const std::function<bool()>& attempt) {
-  const SetSaveRetry& retry = SetSaveRetrySettings();
-  const uint32_t start = TickCount();
-  for (uint32_t attempts = 1;; ++attempts) {
-    if (attempt()) return true;
-    if (!retry.shouldRetry || !retry.shouldRetry(attempts, start)) return false;
-    WaitTicks(retry.pause_ms);
-  }
+std::string SetFileBytes(uint32_t version, const std::function<void(Archive&)>& write_records) {
+  StringSink sink;
+  Archive ar(sink, Archive::Mode::kStore);
+  ar.WriteU32(version);
+  write_records(ar);
+  ar.Flush();
+  return sink.Take();
 }
+
+bool CommitSaved(FolderCommit& commit) { return commit.Commit().ok(); }
 
 }  // namespace lumora

@@ -1,39 +1,34 @@
-// What every set-file save shares: archive bytes go through the checksummed file so that its
-// running checksum sees them, and a failed attempt is tried again as SetSaveRetrySettings says.
+// Saving set files: a table's bytes are made in memory and handed to a FolderCommit, which
+// replaces them on disk together with their checksums in CRCFile.ini, all or nothing.
 #pragma once
 
-#include <lumora/platform/stream.h>
-#include <lumora/support/xcrc_file2.h>
+#include <lumora/lexicon/set_table.h>
+#include <lumora/platform/archive.h>
+#include <lumora/support/folder_commit.h>
 
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace lumora {
 
-// An archive's store side over a checksummed file. Counts what it passed on, which is the
-// file's position once the archive above it was flushed.
-class ChecksummedSink : public Stream {
- public:
-  explicit ChecksummedSink(xCRCFile2& file) : file_(file) {}
-  size_t Read(void*, size_t) override { return 0; }
-  bool Write(const void* buffer, size_t n) override {
-    written_ += n;
-    return file_.Write(buffer, n);
-  }
-  uint64_t Remaining() const override { return 0; }
-  uint64_t written() const { return written_; }
+// The file name of table `name`: the name in code page 1252 followed by `extension`.
+std::string SetFileName(std::u16string_view name, std::string_view extension = ".set");
 
- private:
-  xCRCFile2& file_;
-  uint64_t written_ = 0;
-};
+// A whole set file: `version`, then whatever `write_records` writes.
+std::string SetFileBytes(uint32_t version, const std::function<void(Archive&)>& write_records);
 
-// Whether a new file can be created beside `path`. Checked before opening for writing, so
-// that a folder that cannot take a new file does not have its old one truncated either.
-bool FolderTakesNewFile(const std::string& path);
+// Adds table `name` to `commit`, written with `version`.
+template <typename Record>
+void StageSetTable(FolderCommit& commit, std::u16string_view name, uint32_t version,
+                   SetTable<Record>& table) {
+  commit.Add(SetFileName(name),
+             SetFileBytes(version, [&](Archive& ar) { table.WriteRecords(ar, version); }), true);
+}
 
-// Calls `attempt` until it answers true or the retry settings give up; true on success.
-bool RetrySave(const std::function<bool()>& attempt);
+// Commits and reduces the outcome to the bool that the table operations answer; the reason of
+// a failure stays readable through LastWriteFailure.
+bool CommitSaved(FolderCommit& commit);
 
 }  // namespace lumora

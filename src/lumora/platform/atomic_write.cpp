@@ -1,57 +1,92 @@
 #include <lumora/platform/atomic_write.h>
+#include <lumora/platform/disk.h>
+#include <lumora/platform/folder_lock.h>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <atomic>
 #include <cerrno>
+#include <utility>
 
 namespace lumora {
 namespace {
 
-// A name nobody else uses at the same moment: the process id keeps processes apart, the
-// counter keeps threads of one process apart; O_EXCL settles what is left.
-std::string TemporaryNameFor(const std::string& path) {
-  static std::atomic<unsigned> counter{0};
-  return path + ".tmp" + std::to_string(::getpid()) + "-" + std::to_string(counter++);
-}
+thread_local bool flush_deferred = false;
 
-int CreateTemporary(const std::string& path, mode_t mode, std::string* name) {
-  for (int attempt = 0; attempt < 100; ++attempt) {
-    *name = TemporaryNameFor(path);
-    int fd = ::open(name->c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-    if (fd >= 0 || errno != EEXIST) return fd;
-  }
-  return -1;
-}
-
-bool WriteAll(int fd, const std::string& bytes) {
-  size_t done = 0;
-  while (done < bytes.size()) {
-    ssize_t put = ::write(fd, bytes.data() + done, bytes.size() - done);
-    if (put < 0 && errno == EINTR) continue;
-    if (put <= 0) return false;
-    done += static_cast<size_t>(put);
-  }
-  return true;
+std::string FolderPart(const std::string& path) {
+  const size_t slash = path.find_last_of('/');
+  return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
 }
 
 }  // namespace
 
-bool WriteFileAtomically(const std::string& path, const std::string& bytes) {
+std::string StagingPath(const std::string& path) { return path + std::string(kStagingSuffix); }
+
+WriteStatus CheckReplaceable(const std::string& path) {
+  const std::string folder = FolderPart(path);
+  struct stat st;
+  if (::stat(folder.empty() ? "." : folder.c_str(), &st) != 0) {
+    return WriteStatus::Failure(path, "cannot write into its folder", errno);
+  }
+  if (::stat(path.c_str(), &st) != 0) {
+    if (errno == ENOENT) return {};
+    return WriteStatus::Failure(path, "cannot be replaced", errno);
+  }
+  if (!S_ISREG(st.st_mode)) return WriteStatus::Failure(path, "is not a regular file");
+  if ((st.st_mode & S_IWUSR) == 0) return WriteStatus::Failure(path, "is read-only");
+  return {};
+}
+
+WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush) {
   struct stat old;
-  bool replacing = ::stat(path.c_str(), &old) == 0;
-  // A new file gets the usual 0666 less the umask; a replaced one keeps its exact bits, which
-  // the umask applied at creation might have cut, hence the fchmod below.
-  mode_t mode = replacing ? (old.st_mode & 07777) : 0666;
-  std::string temporary;
-  int fd = CreateTemporary(path, mode, &temporary);
-  if (fd < 0) return false;
-  bool ok = WriteAll(fd, bytes) && (!replacing || ::fchmod(fd, mode) == 0) && ::fsync(fd) == 0;
-  ok = (::close(fd) == 0) && ok;
-  ok = ok && ::rename(temporary.c_str(), path.c_str()) == 0;
-  if (!ok) ::unlink(temporary.c_str());
-  return ok;
+  const bool replacing = ::stat(path.c_str(), &old) == 0;
+  const unsigned mode = replacing ? (old.st_mode & 07777) : 0666;
+  const std::string staging = StagingPath(path);
+  int fd = -1;
+  int error = disk::CreateForWriting(staging, mode, &fd);
+  const char* what = "cannot create a file beside it";
+  if (error == 0) {
+    what = "cannot write it";
+    error = disk::WriteAll(fd, bytes.data(), bytes.size());
+    if (error == 0 && replacing) error = disk::SetMode(fd, mode);
+    if (error == 0 && flush && (error = disk::SyncFile(fd)) != 0) what = "cannot flush it to disk";
+    const int closed = disk::CloseFile(fd);
+    if (error == 0 && (error = closed) != 0) what = "cannot close it";
+  }
+  if (error == 0) return {};
+  disk::Remove(staging);
+  return WriteStatus::Failure(path, what, error);
+}
+
+WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes) {
+  const std::string folder = FolderPart(path);
+  FolderLock lock;
+  if (int error = lock.Acquire(folder, FolderLock::Mode::kExclusive)) {
+    return WriteStatus::Failure(path, "cannot lock its folder", error);
+  }
+  if (WriteStatus check = CheckReplaceable(path); !check.ok()) return check;
+  const bool flush = !flush_deferred;
+  if (WriteStatus staged = StageFile(path, bytes, flush); !staged.ok()) return staged;
+  if (int error = disk::Rename(StagingPath(path), path)) {
+    disk::Remove(StagingPath(path));
+    return WriteStatus::Failure(path, "cannot rename the new file into place", error);
+  }
+  if (int error = flush ? disk::SyncFolder(folder) : 0) {
+    return WriteStatus::Failure(path, "cannot flush its folder to disk", error);
+  }
+  return {};
+}
+
+DeferredFlush::DeferredFlush(std::string folder)
+    : folder_(std::move(folder)), previous_(flush_deferred) {
+  flush_deferred = true;
+}
+
+DeferredFlush::~DeferredFlush() { flush_deferred = previous_; }
+
+WriteStatus DeferredFlush::Finish() {
+  if (int error = disk::SyncFileSystem(folder_)) {
+    return WriteStatus::Failure(folder_, "cannot flush what was written to disk", error);
+  }
+  return {};
 }
 
 }  // namespace lumora

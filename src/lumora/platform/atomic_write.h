@@ -1,14 +1,51 @@
 // Replacing a whole file so that readers see either the old bytes or the new ones, never half
-// of each: the bytes go to a temporary file in the same folder, which is then renamed over the
-// old file. The old file's permission bits carry over to the new one.
+// of each, and so that what was reported saved survives a crash: the bytes go to a staging
+// file beside the target (<name>.lumora-new), are flushed to disk, renamed over the target,
+// and the folder is flushed. A replaced file keeps its permission bits. Writers of one folder
+// take turns through its FolderLock.
 #pragma once
 
+#include <lumora/platform/write_status.h>
+
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace lumora {
 
-// False when the folder cannot be written or the bytes cannot be stored; the old file (if any)
-// is then untouched and no temporary file is left behind.
-bool WriteFileAtomically(const std::string& path, const std::string& bytes);
+inline constexpr std::string_view kStagingSuffix = ".lumora-new";
+
+std::string StagingPath(const std::string& path);
+
+// Whether `path` can be replaced: its folder exists, and the file, when it exists, is a regular
+// file that is not marked read-only (no owner write bit, as a read-only attribute would say).
+WriteStatus CheckReplaceable(const std::string& path);
+
+// Writes `bytes` to StagingPath(path) and, unless `flush` is false, flushes them to disk; the
+// staging file gets the target's permission bits. A failure removes the staging file again.
+WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush = true);
+
+// Checks, stages and renames one file in place, holding its folder's lock throughout. On
+// failure the old file (if any) is untouched and no staging file is left.
+WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes);
+
+// Writing a whole new tree of many files (a sample, an export): while one lives on the calling
+// thread, WriteFileAtomically still stages and renames each file but leaves flushing to
+// Finish, which flushes the file system that holds `folder` once. Each file stays whole or
+// absent whatever happens; the tree as a whole is durable once Finish succeeds.
+class DeferredFlush {
+ public:
+  explicit DeferredFlush(std::string folder);
+  ~DeferredFlush();
+  DeferredFlush(const DeferredFlush&) = delete;
+  DeferredFlush& operator=(const DeferredFlush&) = delete;
+
+  // Flushes everything written since construction; reports the folder when that fails.
+  WriteStatus Finish();
+
+ private:
+  std::string folder_;
+  bool previous_;
+};
 
 }  // namespace lumora

@@ -176,16 +176,27 @@ uint32_t GetInt(const std::string& path, const std::string& section, const std::
   return negative ? 0u - magnitude : magnitude;
 }
 
-bool WriteString(const std::string& path, const std::string& section, const std::string& key,
-                 const std::string& value) {
-  if (!Storable(section, key, value)) return false;
-  std::optional<std::string> bytes = ReadAll(path);
-  if (!bytes) return false;
-  std::vector<Line> lines = SplitLines(*bytes);
-  Place(lines, section, key, value);
+std::optional<std::string> ReadProfileBytes(const std::string& path) { return ReadAll(path); }
+
+std::optional<std::string> WithValues(
+    const std::string& bytes, const std::string& section,
+    const std::vector<std::pair<std::string, std::string>>& values) {
+  for (const auto& [key, value] : values) {
+    if (!Storable(section, key, value)) return std::nullopt;
+  }
+  std::vector<Line> lines = SplitLines(bytes);
+  for (const auto& [key, value] : values) Place(lines, section, key, value);
   std::string out;
   for (const Line& line : lines) out += line.text + line.end;
-  return WriteFileAtomically(path, out);
+  return out;
+}
+
+bool WriteString(const std::string& path, const std::string& section, const std::string& key,
+                 const std::string& value) {
+  std::optional<std::string> bytes = ReadAll(path);
+  if (!bytes) return false;
+  std::optional<std::string> edited = WithValues(*bytes, section, {{key, value}});
+  return edited && WriteFileAtomically(path, *edited).ok();
 }
 
 }  // namespace lumora::profile

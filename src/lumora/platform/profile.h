@@ -7,7 +7,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace lumora::profile {
 
@@ -23,10 +26,18 @@ uint32_t GetInt(const std::string& path, const std::string& section, const std::
                 int32_t fallback = 0);
 
 // Sets key=value in section, creating the file and the section when missing, replacing the
-// first existing occurrence of the key (case-insensitive) in place. Written to a temporary
-// file in the same folder and renamed into place, so a reader never sees half a file.
-// False when the folder cannot be written; the old file is then untouched.
+// first existing occurrence of the key (case-insensitive) in place. Replaced atomically
+// (WriteFileAtomically); false when it could not be, and the old file is then untouched.
 bool WriteString(const std::string& path, const std::string& section, const std::string& key,
                  const std::string& value);
+
+// The file's bytes (empty for a missing file); nothing when it exists but cannot be read.
+std::optional<std::string> ReadProfileBytes(const std::string& path);
+
+// `bytes` with every key=value of `values` set in `section`, in order, as WriteString would set
+// each; nothing when a name or value could not be stored.
+std::optional<std::string> WithValues(
+    const std::string& bytes, const std::string& section,
+    const std::vector<std::pair<std::string, std::string>>& values);
 
 }  // namespace lumora::profile

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace lumora {
@@ -32,6 +34,22 @@ class FileStream : public Stream {
   // Counted here rather than asked of the file: archives ask for the bytes left before every
   // stored count, and a system call each time would dominate reading an index.
   uint64_t position_;
+};
+
+// A store-only stream that collects what is written, for files that are saved whole.
+class StringSink : public Stream {
+ public:
+  size_t Read(void*, size_t) override { return 0; }
+  bool Write(const void* buffer, size_t n) override {
+    bytes_.append(static_cast<const char*>(buffer), n);
+    return true;
+  }
+  uint64_t Remaining() const override { return 0; }
+  uint64_t written() const { return bytes_.size(); }
+  std::string Take() { return std::move(bytes_); }
+
+ private:
+  std::string bytes_;
 };
 
 class MemoryStream : public Stream {

@@ -1,6 +1,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/support/folder_commit.h>
 #include <lumora/support/folder_entries.h>
 
 #include <algorithm>
@@ -28,6 +29,8 @@ std::string IndexFilePath(const std::string& dataFolder, uint32_t type) {
 }
 
 ResourceIndex::ResourceIndex(const std::string& dataFolder) {
+  // An index rebuild replaces several index files together; this sees all old or all new.
+  FolderReadScope scope(dataFolder);
   const std::optional<std::vector<std::string>> names = FolderNames(dataFolder);
   if (names && names->empty()) return;
   for (uint32_t type : kIndexLoadOrder) {

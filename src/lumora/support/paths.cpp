@@ -1,4 +1,5 @@
 #include <lumora/platform/archive.h>
+#include <lumora/platform/atomic_write.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/object.h>
 #include <lumora/platform/stream.h>
@@ -112,16 +113,23 @@ std::string FirstExistingFile(const std::string& base,
   return std::string();
 }
 
+// Loading reads the file as it stands; storing makes the whole file in memory first and
+// replaces the old one atomically, so that a failed store leaves the previous file in place.
 bool LoadArchiveFile(const std::string& path, bool store, Object& object) {
   using namespace open_flags;
-  File file;
-  uint32_t flags = store ? (kCreate | kWrite) : (kRead | kShareDenyNone);
-  if (!file.Open(path, flags | kBinary)) return false;
   try {
+    if (store) {
+      StringSink sink;
+      Archive ar(sink, Archive::Mode::kStore);
+      object.Serialize(ar);
+      ar.Flush();
+      return WriteFileAtomically(path, sink.Take()).ok();
+    }
+    File file;
+    if (!file.Open(path, kRead | kShareDenyNone | kBinary)) return false;
     FileStream stream(file);
-    Archive ar(stream, store ? Archive::Mode::kStore : Archive::Mode::kLoad);
+    Archive ar(stream, Archive::Mode::kLoad);
     object.Serialize(ar);
-    ar.Flush();
   } catch (const std::exception&) {
     // Archive errors, and allocations refused for counts a corrupted file claims.
     return false;

@@ -15,11 +15,6 @@ constexpr int kFailureLine = 129;
 
 }  // namespace
 
-ShareFileSettings& ShareFileRetrySettings() {
-  static ShareFileSettings settings;
-  return settings;
-}
-
 ShareFile::~ShareFile() { ShareFile::Close(); }
 
 bool ShareFile::Open(const std::string& path, uint32_t flags, FileError* error) {
@@ -31,27 +26,23 @@ bool ShareFile::Open(const std::string& path, uint32_t flags, FileError* error) 
     return false;
   }
   open_flags_ = (flags & ~kShareMask) | (writing ? kShareExclusive : kShareDenyWrite);
-  const ShareFileSettings& settings = ShareFileRetrySettings();
-  for (int attempt = 0; attempt < settings.attempts; ++attempt) {
-    const uint32_t start = TickCount();
-    while (true) {
-      if (TryOpen(path)) return true;
-      WaitTicks(settings.wait_ms);
-      if (TickCount() - start >= settings.attempt_period_ms) break;
-    }
+  auto tell = [&](int) {
     std::string message = FailureMessage(path);
     if (error) *error = {file_.LastError(), message};
     Notify(message);
-  }
-  return false;
+  };
+  const int failed = RetryWhileHeld([&] { return TryOpen(path); }, tell);
+  if (failed != 0 && !IsHeldElsewhere(failed)) tell(failed);
+  return failed == 0;
 }
 
-bool ShareFile::TryOpen(const std::string& path) {
+int ShareFile::TryOpen(const std::string& path) {
   read_buffer_.clear();
   read_pos_ = 0;
   write_buffer_.clear();
   write_failed_ = false;
-  return file_.Open(path, open_flags_);
+  if (file_.Open(path, open_flags_)) return 0;
+  return file_.LastError() != 0 ? file_.LastError() : EIO;
 }
 
 std::string ShareFile::FailureMessage(const std::string& path) const {

@@ -1,10 +1,12 @@
 // A buffered file that waits for other processes. Reads deny writers and writes are
-// exclusive; an open that fails because another process holds the file is retried for an
-// attempt period, the user is told through Notify, and after the last attempt the open fails.
+// exclusive; an open that fails because another process holds the file is retried as
+// RetryWhileHeld says, and any other failure (no permission, no such folder) fails at once
+// with one message through Notify.
 // Text mode writes every line feed as CR LF and reads lines without their line end.
 #pragma once
 
 #include <lumora/platform/file.h>
+#include <lumora/platform/held_retry.h>
 
 #include <cstdint>
 #include <string>
@@ -12,14 +14,6 @@
 #include <vector>
 
 namespace lumora {
-
-// Process-wide retry settings. The library never changes them; tests shorten them.
-struct ShareFileSettings {
-  int attempts = 2;
-  uint32_t attempt_period_ms = 10000;
-  uint32_t wait_ms = 100;
-};
-ShareFileSettings& ShareFileRetrySettings();
 
 // What a failed open reports to a caller that asks for it.
 struct FileError {
@@ -61,7 +55,7 @@ class ShareFile {
   bool FlushWrites();
 
  private:
-  bool TryOpen(const std::string& path);
+  int TryOpen(const std::string& path);
   std::string FailureMessage(const std::string& path) const;
 
   File file_;

@@ -46,7 +46,9 @@ std::time_t ParseRecordedDate(const std::string& text) {
   return t == -1 ? 0 : t;
 }
 
-std::string ModificationTime(const std::string& path) {
+}  // namespace
+
+std::string xCRCFile2::ListDate(const std::string& path) {
   struct stat st;
   if (::stat(path.c_str(), &st) != 0) return std::string();
   std::tm tm{};
@@ -56,7 +58,9 @@ std::string ModificationTime(const std::string& path) {
   return text;
 }
 
-}  // namespace
+std::string xCRCFile2::ListChecksumText(uint32_t crc) {
+  return std::to_string(static_cast<int32_t>(crc));
+}
 
 xCRCFile2::~xCRCFile2() { ShareFile::Close(); }
 
@@ -155,10 +159,8 @@ bool xCRCFile2::VerifyAndRecord() {
 bool xCRCFile2::RecordInList(uint32_t crc) const {
   const std::string list = ListPath(path_);
   const std::string key = ListKey(path_);
-  char value[16];
-  std::snprintf(value, sizeof value, "%d", static_cast<int32_t>(crc));
-  return profile::WriteString(list, kListSection, key, value) &&
-         profile::WriteString(list, kListSection, "DATE_" + key, ModificationTime(path_));
+  return profile::WriteString(list, kListSection, key, ListChecksumText(crc)) &&
+         profile::WriteString(list, kListSection, "DATE_" + key, ListDate(path_));
 }
 
 bool xCRCFile2::AppendTrailer(uint32_t crc) {

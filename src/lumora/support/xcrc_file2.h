@@ -34,6 +34,10 @@ class xCRCFile2 : public ShareFile {
 
   // Checksum of a whole file on disk; 0 when it cannot be opened.
   static uint32_t FileChecksum(const std::string& path);
+  // How the list writes a checksum (signed decimal) and a file's date (its modification time,
+  // local, "%d/%m/%Y %H:%M:%S"; empty when the file cannot be seen).
+  static std::string ListChecksumText(uint32_t crc);
+  static std::string ListDate(const std::string& path);
   // Whether a caller should try a failed save again, given the attempts made so far and the
   // tick count when it started: always for the first three, for 30 s up to ten, then 10 s.
   static bool ShouldRetry(uint32_t attempts, uint32_t start_tick);

@@ -1,0 +1,89 @@
+// Saving several files of one folder, and their checksums, all or nothing.
+//
+// The protocol, for a folder F:
+//  1. Take F's lock exclusively (waiting, as for a held file, while another process has it),
+//     and finish whatever an interrupted save left in F (RecoverFolder).
+//  2. Check every target before anything is written: each existing file must be a regular,
+//     writable file that nobody else holds, and CRCFile.ini must be readable.
+//  3. Write each new file as <name>.lumora-new, flush it to disk and read it back: its checksum
+//     must be the checksum of the bytes meant. Then the new CRCFile.ini the same way, with the
+//     checksum and date of every checksummed file and the other keys of the save.
+//  4. Commit: write the list of renames to .lumora-commit (itself staged and renamed into place)
+//     and flush the folder. Before this point a failure removes the staged files and leaves
+//     every old file as it was; after it, the save is decided.
+//  5. Rename every staged file over its target, CRCFile.ini last, flush the folder, and remove
+//     .lumora-commit.
+// Whoever opens F next (a reader through FolderReadScope, or the next save) first runs
+// RecoverFolder: a .lumora-commit left by a crash has its remaining renames done, then every
+// staged file still in F is removed. A save of a single file without checksum needs no
+// journal: its rename is the commit.
+#pragma once
+
+#include <lumora/platform/file.h>
+#include <lumora/platform/folder_lock.h>
+#include <lumora/platform/write_status.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lumora {
+
+inline constexpr const char* kCommitJournalName = ".lumora-commit";
+
+class FolderCommit {
+ public:
+  // `folder` ends in the separator.
+  explicit FolderCommit(std::string folder) : folder_(std::move(folder)) {}
+
+  // Replaces file `name` of the folder with `bytes`; `checksummed` also records its checksum
+  // and date in the folder's CRCFile.ini. A name added twice keeps its last bytes.
+  void Add(const std::string& name, std::string bytes, bool checksummed);
+  // Sets one more key of CRCFile.ini's section Main together with the files.
+  void SetListValue(std::string key, std::string value);
+
+  // Carries the save out; on failure the folder holds its old files and the status says which
+  // file failed and why.
+  WriteStatus Commit();
+
+ private:
+  struct Staged {
+    std::string name;
+    std::string bytes;
+    bool checksummed;
+  };
+  using ListValues = std::vector<std::pair<std::string, std::string>>;
+
+  bool UsesList() const;
+  std::vector<std::string> Targets() const;
+  WriteStatus CheckTargets(std::vector<std::unique_ptr<File>>& held) const;
+  WriteStatus StageFiles(std::vector<std::string>& staged, ListValues& list) const;
+  WriteStatus StageList(std::vector<std::string>& staged, const ListValues& list) const;
+  WriteStatus WriteJournal(const std::vector<std::string>& staged) const;
+  WriteStatus Publish(const std::vector<std::string>& staged) const;
+  void Discard(const std::vector<std::string>& staged) const;
+
+  std::string folder_;
+  std::vector<Staged> files_;
+  ListValues listValues_;
+};
+
+// Completes or discards what an interrupted save left in `folder` (see above). The caller holds
+// the folder's lock exclusively.
+WriteStatus RecoverFolder(const std::string& folder);
+
+// Held while reading files of a folder that a save may change together: when nobody else is in
+// the folder, what an interrupted save left is recovered first; then the folder is held
+// shared, so that no save replaces some of the files halfway through the reading. A folder
+// that cannot be locked (missing, or not readable) is read without the lock.
+class FolderReadScope {
+ public:
+  explicit FolderReadScope(const std::string& folder);
+
+ private:
+  FolderLock lock_;
+};
+
+}  // namespace lumora
