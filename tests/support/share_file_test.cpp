@@ -1,9 +1,11 @@
 #include <lumora/platform/notify.h>
+#include <lumora/platform/tick.h>
 #include <lumora/support/share_file.h>
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <filesystem>
 
 #include "fixtures/temp_dir.h"
 
@@ -59,6 +61,22 @@ TEST_F(ShareFileTest, FileHeldByAWriterIsRetriedThenRefused) {
   EXPECT_TRUE(reader.Open(path, kRead));
   EXPECT_EQ(reader.openFlags() & kShareMask, kShareDenyWrite);
   EXPECT_TRUE(messages_.empty());
+}
+
+// Waiting cannot cure a path that is a folder (nor a missing folder, nor a permission): the
+// open fails at once with one message saying why, and the attempt period is not spent.
+TEST_F(ShareFileTest, ErrorsThatWaitingCannotCureFailAtOnce) {
+  ShareFileRetrySettings() = {2, 60000, 10};
+  ShareFile file;
+  FileError error;
+  const uint32_t start = TickCount();
+  ASSERT_TRUE(std::filesystem::create_directory(dir_.path() + "sub"));
+  EXPECT_FALSE(file.Open(dir_.path() + "sub", kWrite | kCreate, &error));
+  EXPECT_FALSE(file.Open(dir_.path() + "no/folder/x", kWrite | kCreate));
+  EXPECT_LT(TickCount() - start, 5000u);
+  EXPECT_EQ(error.os_error, EISDIR);
+  ASSERT_EQ(messages_.size(), 2u);
+  EXPECT_NE(messages_[1].find("\nFile: " + dir_.path() + "no/folder/x"), std::string::npos);
 }
 
 TEST_F(ShareFileTest, ReadersShareButKeepWritersOut) {

@@ -4,6 +4,7 @@
 #include <lumora/support/paths.h>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <nlohmann/json.hpp>
 
 #include <cstdlib>
@@ -80,6 +81,15 @@ TEST_F(GlossaryResortCli, ShowsTheRebuiltLettersAndSavesOnlyWhenAsked) {
 
 TEST_F(GlossaryResortCli, UnknownDisciplineFails) {
   EXPECT_EQ(RunCli("glossary " + dir_.path() + " -d 8 resort").exit_code, 1);
+}
+
+// One read-only table stops the save before anything is written: exit code 1, every table and
+// checksum as it was, and at once (no waiting meant for files another program holds).
+TEST_F(GlossaryResortCli, AReadOnlyTableFailsTheSaveAndChangesNothing) {
+  const FolderFiles before = SnapshotFolder(folder());
+  ASSERT_EQ(::chmod((folder() + "t_Glo_FNLetter.set").c_str(), 0444), 0);
+  EXPECT_EQ(Resort("--write").exit_code, 1);
+  EXPECT_EQ(SnapshotFolder(folder()), before);
 }
 
 // The tool killed at disk step after disk step of its save: the next command that reads the
