@@ -1,12 +1,29 @@
 #include <lumora/lexicon/set_fields.h>
+#include <lumora/platform/coding.h>
 #include <lumora/platform/typed_array.h>
 
+#include <algorithm>
+
 namespace lumora {
+namespace {
+
+// Texts are most of a set file's bytes: they are encoded a block at a time, not unit by unit.
+void WriteUnits(Archive& ar, std::u16string_view units) {
+  uint8_t block[512];
+  while (!units.empty()) {
+    const size_t n = std::min(units.size(), sizeof block / 2);
+    for (size_t i = 0; i < n; ++i) EncodeU16(block + 2 * i, units[i]);
+    ar.Write(block, 2 * n);
+    units.remove_prefix(n);
+  }
+}
+
+}  // namespace
 
 void IoText(Archive& ar, RecordText& text) {
   if (ar.IsStoring()) {
     ar.WriteU32(text.size());
-    for (char16_t unit : text.view()) ar.WriteU16(unit);
+    WriteUnits(ar, text.view());
     return;
   }
   const uint32_t length = ar.ReadU32();

@@ -41,6 +41,18 @@ WriteStatus HoldTarget(const std::string& path, std::vector<std::unique_ptr<File
   return {};
 }
 
+// The checksum of what the disk gives back for a staged file, read in large blocks; 0 when it
+// cannot be read (a file of no bytes also sums to 0, and then nothing was at stake).
+uint32_t ChecksumOnDisk(const std::string& path) {
+  File file;
+  if (!file.Open(path, open_flags::kRead | open_flags::kBinary)) return 0;
+  constexpr size_t kBlock = 256 * 1024;
+  const std::unique_ptr<uint8_t[]> block(new uint8_t[kBlock]);
+  CrcAccumulator crc;
+  for (size_t got; (got = file.Read(block.get(), kBlock)) > 0;) crc.Update(block.get(), got);
+  return crc.value();
+}
+
 }  // namespace
 
 void FolderCommit::Add(const std::string& name, std::string bytes, bool checksummed) {
@@ -108,7 +120,7 @@ WriteStatus FolderCommit::StageFiles(std::vector<std::string>& staged, ListValue
     if (!file.checksummed) continue;
     // What the disk gives back must be what was meant, before any checksum says so.
     const uint32_t crc = Crc32(file.bytes.data(), file.bytes.size());
-    if (xCRCFile2::FileChecksum(StagingPath(path)) != crc) {
+    if (ChecksumOnDisk(StagingPath(path)) != crc) {
       Notify("The file or directory is corrupted and unreadable.\nFile: " + path +
              "\nsrc: xcrc_file2.cpp, line: " + std::to_string(kCorruptionLine));
       return WriteStatus::Failure(path, "the disk does not give back what was written");
