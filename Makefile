@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 30
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 DEMO_DIR   ?= demo-content
 
-.PHONY: all build configure demo test asan-test bench fuzz format format-check clean
+.PHONY: all deps build configure demo test asan-test bench fuzz format format-check clean
 
 all: build
 
@@ -16,7 +16,11 @@ export CCACHE_BASEDIR := $(CURDIR)
 # Lets ccache cache the objects built against precompiled headers too.
 export CCACHE_SLOPPINESS := pch_defines,time_macros,include_file_mtime,include_file_ctime
 
-$(BUILD)/CMakeCache.txt:
+# The Debian packages the project needs, installed when missing (tools/install-deps).
+deps:
+	@./tools/install-deps
+
+$(BUILD)/CMakeCache.txt: | deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release $(LAUNCHER)
 
 configure: $(BUILD)/CMakeCache.txt
@@ -35,7 +39,7 @@ demo: build
 # batches: the release build, file by file, is the one that checks each file's own includes.
 SAN_CXX    ?= $(shell command -v clang++ >/dev/null 2>&1 && echo clang++ || echo c++)
 
-$(ASAN_BUILD)/CMakeCache.txt:
+$(ASAN_BUILD)/CMakeCache.txt: | deps
 	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=$(SAN_CXX) $(LAUNCHER) \
 	  -DLUMORA_SANITIZE=ON -DLUMORA_FUZZ=ON -DLUMORA_BENCH=OFF -DLUMORA_UNITY=ON
 
