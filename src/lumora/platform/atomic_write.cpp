@@ -2,7 +2,9 @@
 #include <lumora/platform/disk.h>
 #include <lumora/platform/folder_lock.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <cerrno>
 #include <utility>
 
@@ -73,6 +75,21 @@ WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes)
     return WriteStatus::Failure(path, "cannot flush its folder to disk", error);
   }
   return {};
+}
+
+WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination) {
+  const int fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
+  std::string bytes;
+  char block[64 * 1024];
+  ssize_t got;
+  while ((got = ::read(fd, block, sizeof block)) > 0 || (got < 0 && errno == EINTR)) {
+    if (got > 0) bytes.append(block, static_cast<size_t>(got));
+  }
+  const int read_error = got < 0 ? errno : 0;
+  ::close(fd);
+  if (read_error != 0) return WriteStatus::Failure(source, "cannot be read", read_error);
+  return WriteFileAtomically(destination, bytes);
 }
 
 DeferredFlush::DeferredFlush(std::string folder)

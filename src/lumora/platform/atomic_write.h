@@ -29,6 +29,10 @@ WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flus
 // failure the old file (if any) is untouched and no staging file is left.
 WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes);
 
+// Copies the file at `source` over `destination` as WriteFileAtomically writes (overwriting
+// an existing destination); the source is read whole first.
+WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination);
+
 // Writing a whole new tree of many files (a sample, an export): while one lives on the calling
 // thread, WriteFileAtomically still stages and renames each file but leaves flushing to
 // Finish, which flushes the file system that holds `folder` once. Each file stays whole or
