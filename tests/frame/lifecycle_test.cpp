@@ -112,6 +112,15 @@ TEST_F(Lifecycle, DisciplineRootsAndDataFolder) {
   EXPECT_EQ(eight.dataFolder, "/srv/shared/D008/");
 }
 
+// A folder value that already ends in a separator of either kind is kept as written.
+TEST_F(Lifecycle, FolderValuesEndingInEitherSeparatorAreKeptAsWritten) {
+  WriteIni("[Common]\nLocal=E:\\Shared\\\n[001]\nDiscipline=7\nLocal=E:\\D7\\\n");
+  ASSERT_TRUE(lmOpen(root().c_str(), 0));
+  EXPECT_EQ(Library().commonLocal, "E:\\Shared\\");
+  EXPECT_EQ(Registered(0).localRoot, "E:\\D7\\");
+  EXPECT_EQ(Registered(0).dataFolder, "E:\\Shared\\D007/");
+}
+
 TEST_F(Lifecycle, DescriptionsGiveGroupKeysEntriesAndTheGlossaryLanguage) {
   WriteIni("[001]\nDiscipline=7\nParam=300\n[002]\nDiscipline=8\n");
   WriteDescriptions(root() + "D007/", {3, 1, 3, 2});

@@ -29,8 +29,12 @@ std::string LexiconFolder(const std::string& local_root, uint32_t number) {
   return local_root + CourseFolderName(0) + kPathSeparator + NumberedName('r', number);
 }
 
+// A value written with either separator at its end (content prepared on another system) is
+// a folder already: only a value without one gets the platform's separator.
 std::string ReadFolder(ProfileFile& ini, const char* key) {
-  return WithBackslash(ini.GetString(key));
+  std::string value = ini.GetString(key);
+  if (!value.empty() && (value.back() == '\\' || value.back() == '/')) return value;
+  return WithBackslash(value);
 }
 
 std::string ReadUncFolder(ProfileFile& ini) {
