@@ -38,6 +38,26 @@ int SyncFile(int fd) {
   return ::fsync(fd) == 0 ? 0 : errno;
 }
 
+int SyncFiles(const std::vector<std::string>& paths, std::string* failed) {
+  std::vector<int> fds;
+  int error = 0;
+  for (const std::string& path : paths) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+      error = errno;
+      *failed = path;
+      break;
+    }
+    fds.push_back(fd);
+    if (fault::FlushesReachTheDisk()) ::sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE);
+  }
+  for (size_t i = 0; i < fds.size(); ++i) {
+    if (error == 0 && (error = SyncFile(fds[i])) != 0) *failed = paths[i];
+    ::close(fds[i]);
+  }
+  return error;
+}
+
 int CloseFile(int fd) {
   const int injected = TakeStep(Step::kClose);
   const int closed = ::close(fd) == 0 ? 0 : errno;

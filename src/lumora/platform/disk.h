@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace lumora::disk {
 
@@ -13,6 +14,10 @@ namespace lumora::disk {
 int CreateForWriting(const std::string& path, unsigned mode, int* fd);
 int WriteAll(int fd, const void* bytes, size_t n);
 int SyncFile(int fd);
+// Makes several written files durable: writeback of all of them is started first, then each
+// is waited for, so that their writes overlap instead of queueing one flush behind another.
+// Answers the first error (naming its path in *failed).
+int SyncFiles(const std::vector<std::string>& paths, std::string* failed);
 // Closes fd in every case; answers the error close reported.
 int CloseFile(int fd);
 int Rename(const std::string& from, const std::string& to);

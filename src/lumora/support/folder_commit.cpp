@@ -14,8 +14,6 @@
 namespace lumora {
 namespace {
 
-constexpr int kCorruptionLine = 375;
-
 template <typename Item, typename Key>
 Item* FindNamed(std::vector<Item>& items, const Key& key, auto name_of) {
   auto it = std::find_if(items.begin(), items.end(),
@@ -39,18 +37,6 @@ WriteStatus HoldTarget(const std::string& path, std::vector<std::unique_ptr<File
   if (error != 0) return WriteStatus::Failure(path, "cannot be opened for the save", error);
   held.push_back(std::move(file));
   return {};
-}
-
-// The checksum of what the disk gives back for a staged file, read in large blocks; 0 when it
-// cannot be read (a file of no bytes also sums to 0, and then nothing was at stake).
-uint32_t ChecksumOnDisk(const std::string& path) {
-  File file;
-  if (!file.Open(path, open_flags::kRead | open_flags::kBinary)) return 0;
-  constexpr size_t kBlock = 256 * 1024;
-  const std::unique_ptr<uint8_t[]> block(new uint8_t[kBlock]);
-  CrcAccumulator crc;
-  for (size_t got; (got = file.Read(block.get(), kBlock)) > 0;) crc.Update(block.get(), got);
-  return crc.value();
 }
 
 }  // namespace
@@ -95,6 +81,7 @@ WriteStatus FolderCommit::Commit() {
   ListValues list;
   WriteStatus status = StageFiles(staged, list);
   if (status.ok() && UsesList()) status = StageList(staged, list);
+  if (status.ok()) status = FlushStaged(staged);
   if (status.ok() && staged.size() > 1) status = WriteJournal(staged);
   if (!status.ok()) {
     Discard(staged);
@@ -115,16 +102,11 @@ WriteStatus FolderCommit::CheckTargets(std::vector<std::unique_ptr<File>>& held)
 WriteStatus FolderCommit::StageFiles(std::vector<std::string>& staged, ListValues& list) const {
   for (const Staged& file : files_) {
     const std::string path = folder_ + file.name;
-    if (WriteStatus written = StageFile(path, file.bytes); !written.ok()) return written;
+    // Flushed all together once the list is staged too (FlushStaged).
+    if (WriteStatus written = StageFile(path, file.bytes, false); !written.ok()) return written;
     staged.push_back(file.name);
     if (!file.checksummed) continue;
-    // What the disk gives back must be what was meant, before any checksum says so.
     const uint32_t crc = Crc32(file.bytes.data(), file.bytes.size());
-    if (ChecksumOnDisk(StagingPath(path)) != crc) {
-      Notify("The file or directory is corrupted and unreadable.\nFile: " + path +
-             "\nsrc: xcrc_file2.cpp, line: " + std::to_string(kCorruptionLine));
-      return WriteStatus::Failure(path, "the disk does not give back what was written");
-    }
     list.emplace_back(file.name, xCRCFile2::ListChecksumText(crc));
     list.emplace_back("DATE_" + file.name, xCRCFile2::ListDate(StagingPath(path)));
   }
@@ -140,8 +122,18 @@ WriteStatus FolderCommit::StageList(std::vector<std::string>& staged,
   values.insert(values.end(), listValues_.begin(), listValues_.end());
   std::optional<std::string> edited = profile::WithValues(*old, xCRCFile2::kListSection, values);
   if (!edited) return WriteStatus::Failure(path, "cannot hold a name or value of this save");
-  if (WriteStatus written = StageFile(path, *edited); !written.ok()) return written;
+  if (WriteStatus written = StageFile(path, *edited, false); !written.ok()) return written;
   staged.push_back(xCRCFile2::kListName);
+  return {};
+}
+
+WriteStatus FolderCommit::FlushStaged(const std::vector<std::string>& staged) const {
+  std::vector<std::string> paths;
+  for (const std::string& name : staged) paths.push_back(StagingPath(folder_ + name));
+  std::string failed;
+  if (int error = disk::SyncFiles(paths, &failed)) {
+    return WriteStatus::Failure(failed, "cannot flush it to disk", error);
+  }
   return {};
 }
 

@@ -5,9 +5,9 @@
 //     and finish whatever an interrupted save left in F (RecoverFolder).
 //  2. Check every target before anything is written: each existing file must be a regular,
 //     writable file that nobody else holds, and CRCFile.ini must be readable.
-//  3. Write each new file as <name>.lumora-new, flush it to disk and read it back: its checksum
-//     must be the checksum of the bytes meant. Then the new CRCFile.ini the same way, with the
-//     checksum and date of every checksummed file and the other keys of the save.
+//  3. Write each new file as <name>.lumora-new, then the new CRCFile.ini the same way, with the
+//     checksum and date of every checksummed file and the other keys of the save; then flush
+//     them all to disk together.
 //  4. Commit: write the list of renames to .lumora-commit (itself staged and renamed into place)
 //     and flush the folder. Before this point a failure removes the staged files and leaves
 //     every old file as it was; after it, the save is decided.
@@ -61,6 +61,7 @@ class FolderCommit {
   WriteStatus CheckTargets(std::vector<std::unique_ptr<File>>& held) const;
   WriteStatus StageFiles(std::vector<std::string>& staged, ListValues& list) const;
   WriteStatus StageList(std::vector<std::string>& staged, const ListValues& list) const;
+  WriteStatus FlushStaged(const std::vector<std::string>& staged) const;
   WriteStatus WriteJournal(const std::vector<std::string>& staged) const;
   WriteStatus Publish(const std::vector<std::string>& staged) const;
   void Discard(const std::vector<std::string>& staged) const;
