@@ -55,6 +55,10 @@ step "Rebuild discipline 2's order and letters from its written forms and save t
   'lumora glossary $dir -d 2 resort --write | head -8'
 step "The three saved tables still agree with their checksums" \
   'lumora check-sets $dir/D002/C0000/r0001001 | grep -E "FNs|FNSorted|FNLetter"'
+step "One read-only table stops the save before anything is written, and says why" \
+  'chmod a-w $dir/D002/C0000/r0001001/t_Glo_FNLetter.set
+   lumora glossary $dir -d 2 resort --write > /dev/null || echo "exit code $?"
+   chmod u+w $dir/D002/C0000/r0001001/t_Glo_FNLetter.set'
 step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
   'lumora packages $dir -d 1'
 step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'
