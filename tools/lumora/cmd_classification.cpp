@@ -7,11 +7,11 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -52,7 +52,7 @@ nlohmann::ordered_json CatGramJson(const Classification& classification) {
 }
 
 nlohmann::ordered_json ClassificationJson(const Classification& c) {
-  return {{"folder", c.folder},
+  return {{"folder", PrintableText(c.folder, kWindowsAnsi)},
           {"t_FamSem", TableJson(c.famSem)},
           {"t_CatGram", CatGramJson(c)},
           {"t_GrammarPoint_Category", TableJson(c.grammarPointCategories)},
@@ -85,7 +85,7 @@ void Run(const Options& options) {
   }
   const nlohmann::ordered_json json = ClassificationJson(classification);
   if (options.json) {
-    std::cout << json.dump(2) << '\n';
+    PrintJson(json);
   } else {
     PrintText(json);
   }

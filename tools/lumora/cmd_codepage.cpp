@@ -1,37 +1,57 @@
 // `lumora codepage decode CP` and `lumora codepage encode CP`: convert standard input between
-// the narrow bytes of a Windows code page and UTF-8, through the library's own text class so
-// that the tool shows exactly what the library would store or hand out.
+// the narrow bytes of a Windows code page and UTF-8 with the library's own converters, so that
+// the tool shows what the library would store or hand out. Input of any size streams through
+// in blocks; zero bytes are data. What cannot be converted is replaced (undecodable bytes by
+// U+FFFD, ill-formed UTF-8 and characters the code page lacks by "?"), and the command then
+// says how many on stderr and exits with 1.
 #include <lumora/platform/codepage.h>
-#include <lumora/support/utf8.h>
-#include <lumora/support/wide_text.h>
+#include <lumora/platform/codepage_stream.h>
 
 #include <cstdio>
 #include <exception>
-#include <iostream>
-#include <iterator>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "commands.h"
 
 namespace lumora::cli {
 namespace {
 
-std::string ReadStdin() {
-  return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+constexpr size_t kBlockBytes = 64 * 1024;
+
+using Direction = CodePageStream::Direction;
+
+void Write(const std::string& bytes) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size()) {
+    throw CommandFailure("cannot write standard output");
+  }
 }
 
-void WriteStdout(const std::string& bytes) { std::fwrite(bytes.data(), 1, bytes.size(), stdout); }
-
-void Decode(uint32_t codePage) {
-  WideText text;
-  text.FromNarrow(ReadStdin(), codePage);
-  WriteStdout(Utf16ToUtf8(text.view()));
+std::string Counted(uint64_t count, const char* what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
-void Encode(uint32_t codePage) {
-  WideText text(Utf8ToUtf16(ReadStdin()));
-  WriteStdout(text.ToNarrow(codePage));
+void Run(uint32_t codePage, Direction direction) {
+  CodePageStream stream(codePage, direction);
+  std::vector<char> block(kBlockBytes);
+  std::string out;
+  for (bool last = false; !last;) {
+    const size_t got = std::fread(block.data(), 1, block.size(), stdin);
+    if (std::ferror(stdin)) throw CommandFailure("cannot read standard input");
+    // fread comes back short only at the end of the input.
+    last = got < block.size();
+    out.clear();
+    stream.Convert({block.data(), got}, last, out);
+    Write(out);
+  }
+  if (std::fflush(stdout) != 0) throw CommandFailure("cannot write standard output");
+  const uint64_t replaced = stream.substitutions();
+  if (replaced == 0) return;
+  throw CommandFailure(direction == Direction::kDecode
+                           ? Counted(replaced, "undecodable byte sequence") + " replaced by U+FFFD"
+                           : Counted(replaced, "ill-formed or unexpressible character") +
+                                 " replaced by \"?\"");
 }
 
 // Unknown code pages would silently convert as the Western one; on the command line that is
@@ -47,20 +67,28 @@ const CLI::Validator kKnownCodePage(
     "CODEPAGE", "known code page");
 
 void AddDirection(CLI::App& parent, const char* name, const char* description,
-                  void (*run)(uint32_t)) {
+                  Direction direction) {
   auto* command = parent.add_subcommand(name, description);
   auto codePage = std::make_shared<uint32_t>(0);
   command->add_option("CP", *codePage, "Windows code page, e.g. 1251")
       ->required()
       ->check(kKnownCodePage);
-  command->callback([run, codePage] { run(*codePage); });
+  command->callback([direction, codePage] { Run(*codePage, direction); });
 }
 
 void AddCodePageCommand(CLI::App& app) {
-  auto* command = app.add_subcommand("codepage", "Convert between a Windows code page and UTF-8");
+  auto* command = app.add_subcommand(
+      "codepage",
+      "Convert between a Windows code page and UTF-8 (input of any size; replaced input exits "
+      "with 1)");
   command->require_subcommand(1);
-  AddDirection(*command, "decode", "Code-page bytes on stdin to UTF-8 on stdout", &Decode);
-  AddDirection(*command, "encode", "UTF-8 on stdin to code-page bytes on stdout", &Encode);
+  AddDirection(*command, "decode",
+               "Code-page bytes on stdin to UTF-8 on stdout; undecodable bytes become U+FFFD",
+               Direction::kDecode);
+  AddDirection(*command, "encode",
+               "UTF-8 on stdin to code-page bytes on stdout; ill-formed UTF-8 and characters "
+               "the code page lacks become \"?\"",
+               Direction::kEncode);
 }
 
 const CommandRegistration reg{"codepage", &AddCodePageCommand};

@@ -1,6 +1,7 @@
 // `lumora crc FILE...`: the library's CRC-32 of each file, as hex and as the signed decimal
 // form the checksum list stores, so a recorded value can be checked by hand.
 #include "commands.h"
+#include "printable_text.h"
 
 #include <lumora/support/crc32.h>
 
@@ -50,12 +51,12 @@ void RunCrc(const std::vector<std::string>& paths, bool json) {
     }
     int32_t as_signed = static_cast<int32_t>(*crc);
     if (json) {
-      list.push_back({{"path", path}, {"crc", Hex(*crc)}, {"signed", as_signed}});
+      list.push_back({{"path", PrintableText(path)}, {"crc", Hex(*crc)}, {"signed", as_signed}});
     } else {
-      std::printf("%s %" PRId32 " %s\n", Hex(*crc).c_str(), as_signed, path.c_str());
+      std::printf("%s %" PRId32 " %s\n", Hex(*crc).c_str(), as_signed, PrintableText(path).c_str());
     }
   }
-  if (json) std::printf("%s\n", list.dump(2).c_str());
+  if (json) PrintJson(list);
   if (!all_read) throw CommandFailure("some files could not be read");
 }
 

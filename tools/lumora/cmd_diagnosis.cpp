@@ -5,11 +5,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -25,13 +25,13 @@ nlohmann::ordered_json LessonsJson(const CLessonsData& lessons) {
   return {{"loaded", lessons.loaded()},
           {"discipline", lessons.disciplineParam()},
           {"user", lessons.user()},
-          {"folder", lessons.contentFolder()},
+          {"folder", PrintableText(lessons.contentFolder(), kWindowsAnsi)},
           {"lessons", lessons.lessons()}};
 }
 
 nlohmann::ordered_json TestableJson(const CTestableData& testable) {
   return {{"loaded", testable.loaded()},
-          {"folder", testable.contentFolder()},
+          {"folder", PrintableText(testable.contentFolder(), kWindowsAnsi)},
           {"resources", testable.resources()}};
 }
 
@@ -63,7 +63,7 @@ void Run(const Options& options) {
                                 {"user", options.user},
                                 {"answer", answer},
                                 {"disciplines", DisciplinesJson(options)}};
-  std::cout << result.dump(2) << '\n';
+  PrintJson(result);
 }
 
 void AddDiagnosisCommand(CLI::App& app) {

@@ -4,10 +4,10 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -35,7 +35,7 @@ void Run(const Options& options) {
                       {"param", info.Param},
                       {"values", ValuesJson(info.values)}});
     }
-    std::cout << rows.dump(2) << '\n';
+    PrintJson(rows);
   } else {
     std::printf("%6s %4s %6s  %s\n", "id", "type", "param", "group keys");
     for (uint32_t i = 0; i < list.size(); ++i) {

@@ -14,6 +14,7 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 #include "resource_json.h"
 #include "tree_print.h"
 
@@ -45,7 +46,7 @@ void AddGroups(const ResourceGroups& groups, nlohmann::ordered_json& out) {
 // Description media are answered as web paths, as a host would show them.
 void AddDescriptions(const Type2000Index& index, const ContentRequest& request,
                      nlohmann::ordered_json& out) {
-  ResourceJsonWriter writer;
+  ResourceJsonWriter writer(TextCodePage(request.disciplineId));
   nlohmann::ordered_json entries = nlohmann::ordered_json::array();
   for (uint32_t i = 0; i < index.table.size(); ++i) {
     const Type2000Entry& entry = *index.table.ObjectAt(i);
@@ -111,7 +112,7 @@ void Run(const Options& options) {
     types.push_back(TypeJson(type, *index->FindType(type), request));
   }
   if (options.json) {
-    std::cout << nlohmann::ordered_json{{"types", types}}.dump(2) << '\n';
+    PrintJson({{"types", types}});
   } else {
     for (const auto& type : types) {
       std::cout << "type " << type["type"].get<uint32_t>() << '\n';

@@ -12,25 +12,23 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
 
-// The library's labels are Windows-1252 text.
-std::string FromWestern(const std::string& narrow) { return Utf8(WideText(narrow, 1252)); }
-
 void Run(const std::string& code_text, bool json) {
   const TextContext context(ParseNumber(code_text, "context code"), -1);
-  const std::string technical = FromWestern(TechnicalLabel(context.code));
-  const std::string readable = FromWestern(ReadableLabel(context));
-  const std::string description = FromWestern(DescribeContext(&context));
+  const std::string technical = PrintableText(TechnicalLabel(context.code), kWindowsAnsi);
+  const std::string readable = PrintableText(ReadableLabel(context), kWindowsAnsi);
+  const std::string description = PrintableText(DescribeContext(&context), kWindowsAnsi);
   if (json) {
     const nlohmann::ordered_json out = {{"code", context.code.value},
                                         {"technical", technical},
                                         {"readable", readable},
                                         {"description", description},
                                         {"valid", context.IsValid()}};
-    std::cout << out.dump(2) << '\n';
+    PrintJson(out);
   } else {
     std::cout << "technical:   " << technical << '\n'
               << "readable:    " << readable << '\n'

@@ -4,15 +4,15 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
 
-void PrintJson() {
+void PrintRowsJson() {
   nlohmann::ordered_json rows = nlohmann::ordered_json::array();
   for (unsigned number = 0; number < kLanguageCount; ++number) {
     const LanguageInfo& row = LanguageRow(number);
@@ -24,7 +24,7 @@ void PrintJson() {
                     {"codePage", row.codePage},
                     {"langId", row.langId}});
   }
-  std::cout << rows.dump(2) << '\n';
+  PrintJson(rows);
 }
 
 void PrintTable() {
@@ -41,7 +41,7 @@ void AddLanguagesCommand(CLI::App& app) {
   auto* command = app.add_subcommand("languages", "List the language table");
   auto json = std::make_shared<bool>(false);
   command->add_flag("--json", *json, "Print JSON instead of a table");
-  command->callback([json] { *json ? PrintJson() : PrintTable(); });
+  command->callback([json] { *json ? PrintRowsJson() : PrintTable(); });
 }
 
 const CommandRegistration reg{"languages", &AddLanguagesCommand};

@@ -9,6 +9,7 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -32,9 +33,9 @@ void Run(const Options& options) {
   std::string path;
   const bool ok = lmGetMediaPath(&request, media, &path);
   if (options.json) {
-    std::cout << nlohmann::ordered_json{{"ok", ok}, {"path", path}}.dump(2) << '\n';
+    PrintJson({{"ok", ok}, {"path", PrintableText(path, kWindowsAnsi)}});
   } else if (ok) {
-    std::cout << path << '\n';
+    std::cout << PrintableText(path, kWindowsAnsi) << '\n';
   }
   if (!ok) throw CommandFailure("medium not found (local paths are never answered)");
 }

@@ -4,11 +4,11 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -25,10 +25,10 @@ nlohmann::ordered_json DisciplineJson(uint32_t id, const Discipline& d) {
     for (uint32_t type : d.resourceIndex->types()) types.push_back(type);
   }
   return {{"id", id},
-          {"localRoot", d.localRoot},
-          {"uncRoot", d.uncRoot},
-          {"urlRoot", d.urlRoot},
-          {"dataFolder", d.dataFolder},
+          {"localRoot", PrintableText(d.localRoot, kWindowsAnsi)},
+          {"uncRoot", PrintableText(d.uncRoot, kWindowsAnsi)},
+          {"urlRoot", PrintableText(d.urlRoot, kWindowsAnsi)},
+          {"dataFolder", PrintableText(d.dataFolder, kWindowsAnsi)},
           {"types", types}};
 }
 
@@ -40,8 +40,7 @@ void Run(const Options& options) {
     disciplines.push_back(DisciplineJson(registry.KeyAt(i), *registry.ObjectAt(i)));
   }
   if (options.json) {
-    std::cout << nlohmann::ordered_json{{"ok", content.ok()}, {"disciplines", disciplines}}.dump(2)
-              << '\n';
+    PrintJson({{"ok", content.ok()}, {"disciplines", disciplines}});
   } else {
     std::printf("open: %s\n", content.ok() ? "ok" : "failed");
     for (const auto& d : disciplines) {

@@ -8,12 +8,12 @@
 
 #include <cstdio>
 #include <ctime>
-#include <iostream>
 #include <memory>
 #include <vector>
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -67,7 +67,7 @@ void PrintPackages(const Options& options) {
                     {"titles", TitlesJson(translations, p.idString)}});
   }
   if (options.json) {
-    std::cout << rows.dump(2) << '\n';
+    PrintJson(rows);
     return;
   }
   std::printf("%6s %7s  %-19s %8s\n", "id", "version", "generated", "idString");
@@ -95,7 +95,7 @@ void PrintResources(const Options& options) {
     list.push_back({{"package", rows.KeyAt(i)}, {"type", r.idResource}, {"item", r.idItem}});
   }
   if (options.json) {
-    std::cout << list.dump(2) << '\n';
+    PrintJson(list);
     return;
   }
   std::printf("%7s %6s %10s\n", "package", "type", "item");

@@ -9,6 +9,7 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -23,9 +24,9 @@ void Run(const Options& options) {
   OpenedContent content(options.root, 0);
   ContentRequest request;
   request.disciplineId = options.discipline;
-  const std::string path = lmGetPathInfos(&request);
+  const std::string path = PrintableText(lmGetPathInfos(&request), kWindowsAnsi);
   if (options.json) {
-    std::cout << nlohmann::ordered_json{{"path", path}}.dump(2) << '\n';
+    PrintJson({{"path", path}});
   } else {
     std::cout << path << '\n';
   }

@@ -12,6 +12,7 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "printable_text.h"
 #include "resource_json.h"
 #include "tree_print.h"
 
@@ -45,14 +46,14 @@ void Run(const Options& options) {
                              {"resourceId", resource_id},
                              {"course", CourseOf(resource_id)},
                              {"number", NumberOf(resource_id)}};
-  ResourceJsonWriter writer;
+  ResourceJsonWriter writer(TextCodePage(options.discipline));
   if (ok && !writer.Fields(*resource, out)) {
     throw CommandFailure("no JSON form for resources of type " + std::to_string(options.type));
   }
   out["media"] = writer.media();
 
   if (options.json) {
-    std::cout << out.dump(2) << '\n';
+    PrintJson(out);
   } else if (ok) {
     std::printf("resource 0x%08x: type %u, course %u, number %u\n", resource_id, options.type,
                 CourseOf(resource_id), NumberOf(resource_id));

@@ -1,6 +1,7 @@
 // `lumora sample DIR [--scale N]`: writes a small but realistic content root, the demo's content
 // and the easiest way to see the folder tree and every file format.
 #include "commands.h"
+#include "printable_text.h"
 #include "sample/sample_content.h"
 
 #include <lumora/support/paths.h>
@@ -22,7 +23,7 @@ void AddSampleCommand(CLI::App& app) {
   cmd->callback([dir, options] {
     std::string error;
     if (!sample::WriteSampleContent(*dir, *options, &error)) throw CommandFailure(error);
-    std::printf("sample content written to %s\n", WithBackslash(*dir).c_str());
+    std::printf("sample content written to %s\n", PrintableText(WithBackslash(*dir)).c_str());
   });
 }
 

@@ -10,7 +10,6 @@
 #include <cctype>
 #include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -18,6 +17,7 @@
 #include "commands.h"
 #include "content_args.h"
 #include "index_numbers.h"
+#include "printable_text.h"
 #include "resource_json.h"
 
 namespace lumora::cli {
@@ -97,8 +97,10 @@ nlohmann::ordered_json Check(const ContentRequest& request, const std::string& l
   } else {
     report = "resource file could not be read";
   }
-  return {
-      {"type", type}, {"resourceId", resource_id}, {"ok", ok}, {"report", Utf8From1252(report)}};
+  return {{"type", type},
+          {"resourceId", resource_id},
+          {"ok", ok},
+          {"report", PrintableText(report, kWindowsAnsi)}};
 }
 
 void PrintFailure(const nlohmann::ordered_json& result) {
@@ -129,7 +131,7 @@ void Run(const Options& options) {
     }
   }
   if (options.json) {
-    std::cout << results.dump(2) << '\n';
+    PrintJson(results);
   } else {
     for (const auto& result : results) {
       if (result["ok"] == false) PrintFailure(result);

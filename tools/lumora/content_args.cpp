@@ -1,12 +1,14 @@
 #include "content_args.h"
 
 #include <lumora/frame/library_state.h>
+#include <lumora/support/language_table.h>
 #include <lumora/support/utf8.h>
 
 #include <cerrno>
 #include <cstdlib>
 
 #include "commands.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 
@@ -48,13 +50,18 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
   return request;
 }
 
+uint32_t TextCodePage(uint32_t id) {
+  const Discipline* discipline = FindDiscipline(id);
+  return discipline ? CodePageOf(static_cast<uint8_t>(discipline->info.Param)) : kWindowsAnsi;
+}
+
 std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
 
 nlohmann::ordered_json MediaJson(const MediaRef& media) {
   return {{"kind", media.kind},
           {"folder", media.folder},
           {"resource", media.resource},
-          {"path", media.path}};
+          {"path", PrintableText(media.path, kWindowsAnsi)}};
 }
 
 }  // namespace lumora::cli

@@ -37,6 +37,10 @@ class OpenedContent {
 // A request for discipline `id`; throws when no open discipline has that identifier.
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
 
+// The code page of the narrow texts in the resources of open discipline `id`: that of the
+// discipline's language (the low byte of its Param).
+uint32_t TextCodePage(uint32_t id);
+
 std::string Utf8(const WideText& text);
 nlohmann::ordered_json MediaJson(const MediaRef& media);
 

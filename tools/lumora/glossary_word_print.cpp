@@ -7,6 +7,7 @@
 
 #include "commands.h"
 #include "glossary_print.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -77,7 +78,7 @@ Json WordJson(const CGloV6& glossary, const GloFNRecord& fn, uint8_t quality) {
           {"sound", Sound(glossary, fn.fnId)},
           {"reco", Reco(glossary, fn.fnId)},
           {"links", Links(glossary, fn.fnId)},
-          {"soundPath", glossary.getSoundPath(fn.fnId, quality)}};
+          {"soundPath", PrintableText(glossary.getSoundPath(fn.fnId, quality), kWindowsAnsi)}};
 }
 
 void PrintText(const Json& word) {

@@ -8,6 +8,7 @@
 #include "commands.h"
 #include "content_args.h"
 #include "glossary_print.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -31,7 +32,7 @@ void PrintBuckets(const CGloV6& glossary, const WordBuckets& buckets, bool json)
                     {"words", std::move(words)}});
   }
   if (json) {
-    std::cout << rows.dump(2) << '\n';
+    PrintJson(rows);
     return;
   }
   for (const Json& row : rows) {
@@ -93,7 +94,7 @@ void PrintLetters(const CGloV6& glossary, const GlossaryOptions& options) {
     rows.push_back({{"letterId", letter.letterId}, {"letter", Utf16ToUtf8(letter.letter)}});
     if (!options.json) std::cout << letter.letterId << "  " << Utf16ToUtf8(letter.letter) << '\n';
   }
-  if (options.json) std::cout << rows.dump(2) << '\n';
+  if (options.json) PrintJson(rows);
 }
 
 }  // namespace lumora::cli

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "grammar_print.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -34,7 +35,7 @@ void PrintFoundPoints(const CGramV6& grammar, const GrammarOptions& options) {
     found.push_back({{"point", point}, {"title", Utf16ToUtf8(title)}});
   }
   if (options.json) {
-    std::cout << found.dump(2) << '\n';
+    PrintJson(found);
     return;
   }
   for (const Json& f : found) {
@@ -52,7 +53,7 @@ void PrintGrammarLevels(const CGramV6& grammar, const GrammarOptions& options) {
     rows.push_back({{"level", level}, {"points", points}});
     if (!options.json) std::cout << "level " << int{level} << ": " << NumberList(points) << '\n';
   }
-  if (options.json) std::cout << rows.dump(2) << '\n';
+  if (options.json) PrintJson(rows);
 }
 
 void PrintGrammarCategories(const CGramV6& grammar, const GrammarOptions& options) {
@@ -72,7 +73,7 @@ void PrintGrammarCategories(const CGramV6& grammar, const GrammarOptions& option
     }
     rows.push_back({{"category", category}, {"subcategories", subs}});
   }
-  if (options.json) std::cout << rows.dump(2) << '\n';
+  if (options.json) PrintJson(rows);
 }
 
 }  // namespace lumora::cli

@@ -7,6 +7,7 @@
 
 #include "commands.h"
 #include "grammar_print.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -109,7 +110,7 @@ void PrintGrammarPoint(const CGramV6& grammar, const GrammarOptions& options) {
   if (point == nullptr) throw CommandFailure("no grammar point " + std::to_string(options.point));
   const Json json = PointJson(grammar, *point);
   if (options.json) {
-    std::cout << json.dump(2) << '\n';
+    PrintJson(json);
   } else {
     PrintText(json);
   }

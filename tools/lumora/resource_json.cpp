@@ -5,6 +5,7 @@
 #include <string>
 
 #include "content_args.h"
+#include "printable_text.h"
 #include "resource_json_types.h"
 
 namespace lumora::cli {
@@ -86,7 +87,7 @@ nlohmann::ordered_json ResourceJsonWriter::Element(const ContentElement& element
   if (element.isReference) return out;
   out["text"] = Text(element.text);
   out["translations"] = Texts(element.translations);
-  out["note"] = Utf8From1252(element.note);
+  out["note"] = Narrow(element.note);
   out["media"] = Media(element.media);
   out["firstAttributes"] = BytesJson(element.firstAttributes);
   out["secondAttributes"] = BytesJson(element.secondAttributes);
@@ -99,13 +100,15 @@ nlohmann::ordered_json NumbersJson(const DWordArray& numbers) {
   return out;
 }
 
-nlohmann::ordered_json StringsJson(const StringArray& strings) {
-  nlohmann::ordered_json out = nlohmann::ordered_json::array();
-  for (const std::string& text : strings.items) out.push_back(Utf8From1252(text));
-  return out;
+std::string ResourceJsonWriter::Narrow(const std::string& text) const {
+  return PrintableText(text, textCodePage_);
 }
 
-std::string Utf8From1252(const std::string& text) { return Utf8(WideText(text, 1252)); }
+nlohmann::ordered_json ResourceJsonWriter::Strings(const StringArray& strings) const {
+  nlohmann::ordered_json out = nlohmann::ordered_json::array();
+  for (const std::string& text : strings.items) out.push_back(Narrow(text));
+  return out;
+}
 
 nlohmann::ordered_json ResourceJsonWriter::Media(const MediaRef& media) {
   nlohmann::ordered_json out = MediaJson(media);

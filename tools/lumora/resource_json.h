@@ -17,11 +17,15 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace lumora::cli {
 
 class ResourceJsonWriter {
  public:
+  // textCodePage: the code page of the resources' narrow texts (see printable_text.h).
+  explicit ResourceJsonWriter(uint32_t textCodePage) : textCodePage_(textCodePage) {}
+
   // The type's own fields (no head): false for an object of no known exercise type.
   bool Fields(const ExerciseResource& resource, nlohmann::ordered_json& out);
   const nlohmann::ordered_json& media() const { return media_; }
@@ -32,8 +36,11 @@ class ResourceJsonWriter {
   nlohmann::ordered_json Texts(const LanguageTexts& texts) const;
   nlohmann::ordered_json Texts(const TextList& texts) const;
   nlohmann::ordered_json Text(const CodePageText& text) const;
+  std::string Narrow(const std::string& text) const;
+  nlohmann::ordered_json Strings(const StringArray& strings) const;
 
  private:
+  uint32_t textCodePage_;
   nlohmann::ordered_json media_ = nlohmann::ordered_json::array();
 };
 
@@ -55,9 +62,6 @@ nlohmann::ordered_json RecordsJson(const TypedArray<RawRecord<N>>& records) {
 
 nlohmann::ordered_json BytesJson(const ByteArray& bytes);
 nlohmann::ordered_json NumbersJson(const DWordArray& numbers);
-// Narrow strings are Windows-1252 text; JSON wants UTF-8.
-nlohmann::ordered_json StringsJson(const StringArray& strings);
-std::string Utf8From1252(const std::string& text);
 
 // One JSON value per object of `list`, made by `each`.
 template <typename T, typename Each>

@@ -33,7 +33,7 @@ void Type5Fields(ResourceJsonWriter& w, const Type5Resource& r, Json& out) {
 void Type9Fields(ResourceJsonWriter& w, const Type9Resource& r, Json& out) {
   out["groupKey"] = r.groupKey;
   out["words"] = w.Texts(r.words);
-  out["strings"] = StringsJson(r.strings);
+  out["strings"] = w.Strings(r.strings);
   out["media"] = w.Media(r.media);
 }
 
@@ -101,7 +101,7 @@ void Type1006Fields(ResourceJsonWriter& w, const Type1006Resource& r, Json& out)
   }
   out["entries"] = entries;
   out["title"] = w.Text(r.title);
-  out["strings"] = StringsJson(r.strings);
+  out["strings"] = w.Strings(r.strings);
 }
 
 void Type1010Fields(ResourceJsonWriter& w, const Type1010Resource& r, Json& out) {

@@ -29,7 +29,7 @@ void Type1Fields(ResourceJsonWriter& w, const Type1Resource& r, Json& out) {
 void Type2Fields(ResourceJsonWriter& w, const Type2Resource& r, Json& out) {
   out["groupKey"] = r.groupKey;
   out["sentence"] = w.Text(r.sentence);
-  out["words"] = StringsJson(r.words);
+  out["words"] = w.Strings(r.words);
 }
 
 void Type3Fields(ResourceJsonWriter& w, const Type3Resource& r, Json& out) {
@@ -48,8 +48,8 @@ void Type7Fields(ResourceJsonWriter& w, const Type7Resource& r, Json& out) {
   out["groupKey"] = r.groupKey;
   out["text"] = w.Text(r.text);
   out["choices"] = w.Texts(r.choices);
-  out["words"] = StringsJson(r.words);
-  out["transientText"] = Utf8From1252(r.transientText);
+  out["words"] = w.Strings(r.words);
+  out["transientText"] = w.Narrow(r.transientText);
 }
 
 Json PracticeRecordJson(ResourceJsonWriter& w, const PracticeRecord& record) {
@@ -99,12 +99,12 @@ void Type18Fields(const Type18Resource& r, Json& out) {
   out["value"] = r.value;
 }
 
-void Type19Fields(const Type19Resource& r, Json& out) {
+void Type19Fields(ResourceJsonWriter& w, const Type19Resource& r, Json& out) {
   out["firstValue"] = r.firstValue;
   out["secondValue"] = r.secondValue;
   out["groupKey"] = r.groupKey;
   out["positions"] = NumbersJson(r.positions);
-  out["names"] = StringsJson(r.names);
+  out["names"] = w.Strings(r.names);
 }
 
 }  // namespace
@@ -143,7 +143,7 @@ bool TextTypeFields(ResourceJsonWriter& w, const ExerciseResource& resource, Jso
       Type18Fields(static_cast<const Type18Resource&>(resource), out);
       return true;
     case Type19Resource::kType:
-      Type19Fields(static_cast<const Type19Resource&>(resource), out);
+      Type19Fields(w, static_cast<const Type19Resource&>(resource), out);
       return true;
     default:
       return false;

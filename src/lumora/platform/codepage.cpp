@@ -1,72 +1,21 @@
 #include <lumora/platform/codepage.h>
 
-#include <unicode/ucnv.h>
+#include <lumora/platform/codepage_converter.h>
 
-#include <array>
-#include <memory>
-#include <stdexcept>
 #include <string>
 #include <unordered_map>
 
 namespace lumora {
 namespace {
 
-struct CodePageName {
-  uint16_t codePage;
-  const char* converter;
-};
-
-constexpr std::array<CodePageName, 14> kConverters{{
-    {874, "windows-874"},
-    {932, "windows-932"},
-    {936, "windows-936"},
-    {949, "windows-949"},
-    {950, "windows-950"},
-    {1250, "windows-1250"},
-    {1251, "windows-1251"},
-    {1252, "windows-1252"},
-    {1253, "windows-1253"},
-    {1254, "windows-1254"},
-    {1255, "windows-1255"},
-    {1256, "windows-1256"},
-    {1257, "windows-1257"},
-    {1258, "windows-1258"},
-}};
-
-const char* ConverterName(uint32_t codePage) {
-  for (const auto& entry : kConverters) {
-    if (entry.codePage == codePage) return entry.converter;
-  }
-  return ConverterName(kFallbackCodePage);
-}
-
-struct ConverterCloser {
-  void operator()(UConverter* converter) const { ucnv_close(converter); }
-};
-using ConverterPtr = std::unique_ptr<UConverter, ConverterCloser>;
-
-ConverterPtr OpenConverter(const char* name) {
-  UErrorCode status = U_ZERO_ERROR;
-  ConverterPtr converter(ucnv_open(name, &status));
-  if (U_FAILURE(status)) {
-    throw std::runtime_error(std::string("no converter for ") + name + ": " + u_errorName(status));
-  }
-  // Unmappable characters become the converter's best fit, else "?" rather than ICU's
-  // default substitute (0x1A), which would read as a control byte.
-  ucnv_setFallback(converter.get(), true);
-  status = U_ZERO_ERROR;
-  ucnv_setSubstChars(converter.get(), "?", 1, &status);
-  return converter;
-}
-
 // An ICU converter keeps conversion state and must not be shared between threads; one per
 // thread and code page avoids both a lock and reopening the converter on every call. The
 // one-shot conversions below reset it themselves.
 UConverter* Converter(uint32_t codePage) {
-  thread_local std::unordered_map<const char*, ConverterPtr> cache;
-  const char* name = ConverterName(codePage);
-  ConverterPtr& slot = cache[name];
-  if (!slot) slot = OpenConverter(name);
+  thread_local std::unordered_map<uint32_t, ConverterPtr> cache;
+  // Unknown code pages share the fallback's converter, however many different ones turn up.
+  ConverterPtr& slot = cache[IsKnownCodePage(codePage) ? codePage : kFallbackCodePage];
+  if (!slot) slot = OpenCodePageConverter(codePage);
   return slot.get();
 }
 
@@ -88,13 +37,6 @@ Out ConvertAll(size_t guess, Convert convert) {
 }
 
 }  // namespace
-
-bool IsKnownCodePage(uint32_t codePage) {
-  for (const auto& entry : kConverters) {
-    if (entry.codePage == codePage) return true;
-  }
-  return false;
-}
 
 std::u16string DecodeCodePage(std::string_view bytes, uint32_t codePage) {
   if (bytes.empty()) return {};

@@ -1,6 +1,7 @@
 #include <lumora/support/utf8.h>
 
 #include <unicode/ustring.h>
+#include <unicode/utf8.h>
 
 namespace lumora {
 namespace {
@@ -31,6 +32,17 @@ std::string Utf16ToUtf8(std::u16string_view text) {
   if (U_FAILURE(status)) return {};
   out.resize(static_cast<size_t>(length));
   return out;
+}
+
+bool IsUtf8(std::string_view text) {
+  const auto* bytes = reinterpret_cast<const uint8_t*>(text.data());
+  const auto length = static_cast<int32_t>(text.size());
+  for (int32_t i = 0; i < length;) {
+    UChar32 c;
+    U8_NEXT(bytes, i, length, c);
+    if (c < 0) return false;
+  }
+  return true;
 }
 
 }  // namespace lumora
