@@ -50,14 +50,23 @@ asan-test: $(ASAN_BUILD)/CMakeCache.txt
 bench: build
 	@for b in $(BUILD)/bench/*_bench; do python3 bench/ratios.py $$b; done
 
-# Each fuzz target runs for FUZZ_SECONDS on an empty corpus; needs clang.
+# Each fuzz target runs for FUZZ_SECONDS, starting from seeds written from the sample content;
+# what it finds goes into a working corpus beside them that later runs start from too, and a
+# crashing input into FUZZ_DIR. Needs clang.
+FUZZ_DIR   := $(ASAN_BUILD)/fuzz
+
 fuzz: $(ASAN_BUILD)/CMakeCache.txt
 	@grep -q 'CMAKE_CXX_COMPILER:.*clang' $(ASAN_BUILD)/CMakeCache.txt || \
 	  { echo "make fuzz needs $(ASAN_BUILD) configured with clang"; exit 1; }
 	cmake --build $(ASAN_BUILD) -j $(JOBS) --target fuzz_targets
-	@for f in $(ASAN_BUILD)/fuzz/*_fuzz; do \
-	  echo "fuzzing $$f for $(FUZZ_SECONDS) s"; \
-	  $$f -max_total_time=$(FUZZ_SECONDS) -max_len=4096 -rss_limit_mb=2048 > $$f.log 2>&1 \
+	rm -rf $(FUZZ_DIR)/sample $(FUZZ_DIR)/seeds
+	$(ASAN_BUILD)/lumora sample $(FUZZ_DIR)/sample > /dev/null
+	$(FUZZ_DIR)/fuzz_seeds $(FUZZ_DIR)/sample $(FUZZ_DIR)/seeds
+	@for f in $(FUZZ_DIR)/*_fuzz; do \
+	  t=$$(basename $$f); mkdir -p $(FUZZ_DIR)/corpus/$$t; \
+	  echo "fuzzing $$t for $(FUZZ_SECONDS) s"; \
+	  $$f -max_total_time=$(FUZZ_SECONDS) -rss_limit_mb=2048 -artifact_prefix=$(FUZZ_DIR)/$$t- \
+	    $(FUZZ_DIR)/corpus/$$t $(FUZZ_DIR)/seeds/$$t > $$f.log 2>&1 \
 	    || { tail -n 40 $$f.log; exit 1; }; \
 	  tail -n 1 $$f.log; \
 	done

@@ -14,7 +14,6 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -23,18 +22,15 @@
 #include <string>
 #include <vector>
 
+#include "lexicon_inputs.h"
 #include "scratch_folder.h"
 
 namespace {
 
-constexpr std::array<std::u16string_view, 10> kTables = {
-    u"t_Glo_FNs",      u"t_Glo_Writings", u"t_Glo_Links",    u"t_Glo_Cloud1600",
-    u"t_Glo_Sounds",   u"t_Glo_Reco1600", u"t_Glo_Comments", u"t_Glo_FNTranslations",
-    u"t_Glo_FNSorted", u"t_Glo_FNLetter"};
-constexpr std::array<std::u16string_view, 2> kIndexed = {u"t_Glo_Sounds", u"t_Glo_Reco1600"};
-// Languages with a locale comparison (French, English, German) and one without.
-constexpr std::array<uint8_t, 4> kLanguages = {17, 15, 14, 200};
-
+using fuzzing::kGlossaryLanguages;
+using fuzzing::kGlossaryTableCount;
+using fuzzing::kIndexedTables;
+using fuzzing::kSetFileNames;
 using fuzzing::ScratchFolder;
 using fuzzing::WriteFile;
 
@@ -201,14 +197,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   scratch.Empty();
   FuzzedDataProvider in(data, size);
   const bool assembled = in.ConsumeIntegral<uint8_t>() % 2 == 1;
-  const uint8_t language = kLanguages[in.ConsumeIntegralInRange<size_t>(0, kLanguages.size() - 1)];
+  const uint8_t language =
+      kGlossaryLanguages[in.ConsumeIntegralInRange<size_t>(0, kGlossaryLanguages.size() - 1)];
   if (!assembled) {
-    for (std::u16string_view table : kTables) {
+    for (size_t i = 0; i < kGlossaryTableCount; ++i) {
       if (in.ConsumeBool()) {
-        WriteFile(lumora::SetFilePath(scratch.path(), table), in.ConsumeRandomLengthString(4096));
+        WriteFile(lumora::SetFilePath(scratch.path(), kSetFileNames[i]),
+                  in.ConsumeRandomLengthString(4096));
       }
     }
-    for (std::u16string_view table : kIndexed) {
+    for (std::u16string_view table : kIndexedTables) {
       if (in.ConsumeBool()) {
         WriteFile(lumora::SetIndexPath(scratch.path(), table), in.ConsumeRandomLengthString(512));
       }

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <string>
 
+#include "lexicon_inputs.h"
 #include "scratch_folder.h"
 
 namespace {
@@ -40,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static const ScratchFolder scratch;
   if (size < 3 || scratch.path().empty()) return 0;
   const bool sounds = data[0] % 2 == 0;
-  const std::u16string_view name = sounds ? u"t_Glo_Sounds" : u"t_Glo_Reco1600";
+  const std::u16string_view name = fuzzing::kIndexedTables[sounds ? 0 : 1];
   const size_t rest = size - 3;
   const size_t index_size = std::min<size_t>(data[1] | (data[2] << 8), rest);
   WriteFile(lumora::SetIndexPath(scratch.path(), name), data + 3, index_size);

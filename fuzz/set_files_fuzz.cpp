@@ -1,5 +1,6 @@
 // Feeds arbitrary bytes to the set-file reader: the first byte picks one of the table kinds of
-// the glossary, the grammar and the classification, the rest is the file. What was read is
+// the glossary, the grammar and the classification (in the order of lexicon_inputs.h), the rest
+// is the file. What was read is
 // looked up and stored again, so that a partly read table is also walked.
 #include <lumora/lexicon/class_records.h>
 #include <lumora/lexicon/glossary_records.h>
@@ -13,6 +14,8 @@
 #include <cstdint>
 #include <iterator>
 #include <vector>
+
+#include "lexicon_inputs.h"
 
 namespace {
 
@@ -77,6 +80,7 @@ constexpr Reader kReaders[] = {
     Classes<lumora::CatGramRecord>,
     Classes<lumora::SyntacticFunctionRecord>,
 };
+static_assert(std::size(kReaders) == fuzzing::kSetFileNames.size());
 
 }  // namespace
 
