@@ -130,7 +130,7 @@ TEST_F(ContentCli, ResourceFailuresExitWithOne) {
   // The type-1005 file read as type 40: its head has no type tag.
   EXPECT_EQ(Json("resource " + root() + " -d 5 --type 40 --id 0x100007", 1)["ok"], false);
   EXPECT_EQ(RunCli("resource " + root() + " -d 9 --type 40 --id 1").exit_code, 1);
-  EXPECT_EQ(RunCli("resource " + root() + " -d 5 --type 40 --id 12x").exit_code, 1);
+  EXPECT_EQ(RunCli("resource " + root() + " -d 5 --type 40 --id 12x").exit_code, 2);
   EXPECT_EQ(RunCli("resource " + root() + " -d 5 --type 41 --id 1").exit_code, 1);
 }
 

@@ -67,7 +67,7 @@ TEST_F(GlossaryCli, ByLetterAppliesEveryFilter) {
   EXPECT_EQ(ids(Json("by-letter --class 1020101")), (std::vector<int>{21}));
   EXPECT_EQ(ids(Json("by-letter --need-code --letter 1")), (std::vector<int>{11}));
   EXPECT_EQ(ids(Json("by-letter --linked 10,11")), (std::vector<int>{20, 21, 30}));
-  EXPECT_EQ(Glossary("by-letter --level x").exit_code, 1);
+  EXPECT_EQ(Glossary("by-letter --level x").exit_code, 2);
 }
 
 TEST_F(GlossaryCli, WordShowsEverythingTheGlossaryHoldsAboutIt) {

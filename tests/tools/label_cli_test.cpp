@@ -30,8 +30,8 @@ TEST(LabelCli, PrintsLabelsInUtf8) {
 }
 
 TEST(LabelCli, RefusesCodesThatAreNotNumbers) {
-  EXPECT_EQ(RunCli("label 0xA40205001").exit_code, 1);
-  EXPECT_EQ(RunCli("label word").exit_code, 1);
+  EXPECT_EQ(RunCli("label 0xA40205001").exit_code, 2);
+  EXPECT_EQ(RunCli("label word").exit_code, 2);
   EXPECT_EQ(RunCli("label").exit_code, 2);
 }
 

@@ -23,5 +23,20 @@ TEST(LogFolderCli, UnreadableContentIniIsReportedInTheLogFolder) {
   EXPECT_NE(dir.Read("logs/" + name).find(" 0 200004 2=541 3="), std::string::npos);
 }
 
+// The log is written from deep inside the library, which cannot complain; a folder it could
+// not write into must be refused up front. A path below a regular file is unusable even for
+// root.
+TEST(LogFolderCli, UnusableFolderIsRefusedWithItsReason) {
+  TempDir dir;
+  const std::string file = dir.Write("file", "x");
+  for (const std::string& folder : {file, file + "/logs", std::string("/dev/null")}) {
+    CliResult result = RunCli("--log-folder '" + folder + "' languages");
+    EXPECT_EQ(result.exit_code, 1) << folder;
+    EXPECT_TRUE(result.out.empty()) << folder;
+    EXPECT_EQ(result.err.rfind("lumora: cannot use log folder " + folder + ": ", 0), 0u)
+        << result.err;
+  }
+}
+
 }  // namespace
 }  // namespace lumora::testing

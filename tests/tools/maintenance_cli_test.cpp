@@ -67,7 +67,7 @@ TEST_F(MaintenanceCli, VerifyReportsTheMissingReferenceOfAnIndexedResource) {
   EXPECT_EQ(human.exit_code, 1);
   EXPECT_NE(human.out.find("type 40 resource 0x0020001f:\n"), std::string::npos) << human.out;
   EXPECT_NE(human.out.find("File not found"), std::string::npos);
-  EXPECT_EQ(RunCli("verify " + root() + " --quality 4").exit_code, 1);
+  EXPECT_EQ(RunCli("verify " + root() + " --quality 4").exit_code, 2);
 }
 
 TEST_F(MaintenanceCli, RebuildIndexWritesElsewhereUnlessToldToOverwrite) {

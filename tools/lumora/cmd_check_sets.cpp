@@ -6,10 +6,10 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 
 #include "commands.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -33,7 +33,7 @@ const char* ChecksumName(SetChecksum checksum) {
 
 // A file too short for its header has neither version nor count: null in JSON.
 nlohmann::ordered_json CheckJson(const SetFileCheck& check) {
-  nlohmann::ordered_json json = {{"table", check.table}};
+  nlohmann::ordered_json json = {{"table", PrintableText(check.table, kWindowsAnsi)}};
   json["version"] = check.hasHeader ? nlohmann::ordered_json(check.version) : nullptr;
   json["records"] = check.hasHeader ? nlohmann::ordered_json(check.records) : nullptr;
   json["checksum"] = ChecksumName(check.checksum);
@@ -65,7 +65,7 @@ void Run(const Options& options) {
       PrintLine(check);
     }
   }
-  if (options.json) std::cout << list.dump(2) << '\n';
+  if (options.json) PrintJson(list);
   if (bad > 0) throw CommandFailure(std::to_string(bad) + " of the set files are bad");
 }
 

@@ -54,7 +54,6 @@ nlohmann::ordered_json DisciplinesJson(const Options& options) {
 }
 
 void Run(const Options& options) {
-  if (options.user > UINT8_MAX) throw CommandFailure("user must be 0 to 255");
   OpenedContent content(options.root, options.discipline);
   if (!content.ok()) throw CommandFailure("cannot open " + options.root);
   const bool answer =
@@ -72,7 +71,9 @@ void AddDiagnosisCommand(CLI::App& app) {
   command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
       ->required();
   command->add_option("-d,--discipline", options->discipline, "Discipline identifier (0: all)");
-  command->add_option("--user", options->user, "User number, 0 to 255")->required();
+  command->add_option("--user", options->user, "User number, 0 to 255")
+      ->required()
+      ->check(CLI::Range(0u, 255u));
   command->add_flag("--check", options->check,
                     "Only ask whether the first discipline's lessons hold this user's data");
   command->callback([options] { Run(*options); });

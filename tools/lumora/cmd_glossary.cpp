@@ -2,7 +2,9 @@
 // discipline's glossary as the host sees it.
 #include <lumora/lumora.h>
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "commands.h"
 #include "content_args.h"
@@ -43,19 +45,32 @@ void AddWord(CLI::App& command, const std::shared_ptr<GlossaryOptions>& options)
                        &PrintGlossaryWord);
   word->add_option("FNID", options->fnId, "Word number")->required();
   word->add_option("--path-kind", options->pathKind, "Sound path for local, url or unc");
-  word->add_option("--quality", options->quality, "Quality folder of the sound path");
+  word->add_option("--quality", options->quality, "Quality folder of the sound path, 0 to 255")
+      ->check(CLI::Range(0u, 255u));
 }
 
 void AddByLetter(CLI::App& command, const std::shared_ptr<GlossaryOptions>& options) {
   auto* by_letter =
       AddView(command, options, "by-letter", "Entries by letter section", &PrintWordsByLetter);
   by_letter->add_option("--letter", options->letter, "Only this letter section (its number)");
-  by_letter->add_option("--level", options->levels,
-                        "MIN (that level and above) or MIN:MAX; a MAX below MIN means MIN");
+  by_letter
+      ->add_option("--level", options->levels,
+                   "MIN (that level and above) or MIN:MAX, 0 to 255; a MAX below MIN means MIN")
+      ->check(ParsedBy([](const std::string& text) {
+        uint8_t min = 0;
+        uint8_t max = 0;
+        ParseLevels(text, min, max);
+      }));
   by_letter->add_option("--class", options->classId, "Only entries of this class or below it");
   by_letter->add_flag("--need-code", options->needCode, "Only entries with a code in 50000..59999");
-  by_letter->add_option("--linked", options->linked,
-                        "FIRST[,SECOND]: only the words linked from these words");
+  by_letter
+      ->add_option("--linked", options->linked,
+                   "FIRST[,SECOND]: only the words linked from these words")
+      ->check(ParsedBy([](const std::string& text) {
+        uint32_t first = 0;
+        uint32_t second = 0;
+        ParseLinked(text, first, second);
+      }));
 }
 
 void AddGlossaryCommand(CLI::App& app) {

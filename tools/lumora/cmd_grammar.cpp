@@ -50,7 +50,10 @@ void AddGrammarCommand(CLI::App& app) {
   auto* find =
       AddView(*command, options, "find", "Points whose texts contain TEXT", &PrintFoundPoints);
   find->add_option("TEXT", options->query, "Text to look for (case-sensitive)")->required();
-  find->add_option("--language", options->language, "Language of titles and bubbles")->required();
+  find->add_option("--language", options->language,
+                   "Language number of titles and bubbles, 0 to 255")
+      ->required()
+      ->check(CLI::Range(0u, 255u));
   AddLinkFilters(
       *AddView(*command, options, "levels", "Levels of the first subpoints", &PrintGrammarLevels),
       *options);

@@ -42,7 +42,9 @@ void AddLabelCommand(CLI::App& app) {
   auto code = std::make_shared<std::string>();
   auto json = std::make_shared<bool>(false);
   auto* command = app.add_subcommand("label", "Show the labels of a context code");
-  command->add_option("CODE", *code, "Context code, decimal or 0x-hexadecimal")->required();
+  command->add_option("CODE", *code, "Context code, decimal or 0x-hexadecimal")
+      ->required()
+      ->check(NumberText("context code"));
   command->add_flag("--json", *json, "Print JSON instead of text");
   command->callback([code, json] { Run(*code, *json); });
 }

@@ -46,12 +46,16 @@ void AddMediaCommand(CLI::App& app) {
   command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
       ->required();
   command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
-  command->add_option("--kind", options->kind, "1 sound, 2 picture, 3 video")->required();
+  command->add_option("--kind", options->kind, "1 sound, 2 picture, 3 video")
+      ->required()
+      ->check(CLI::Range(1u, 3u));
   command->add_option("--folder", options->folder, "Type folder number")->required();
   command->add_option("--resource", options->resource, "Resource id, decimal or 0x-hex")
-      ->required();
+      ->required()
+      ->check(NumberText("resource"));
   command->add_option("--path-kind", options->pathKind, "url or unc")->required();
-  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3");
+  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3")
+      ->check(CLI::Range(1u, 3u));
   command->add_flag("--json", options->json, "Print JSON instead of text");
   command->callback([options] { Run(*options); });
 }

@@ -127,7 +127,8 @@ void AddPackagesCommand(CLI::App& app) {
   command
       ->add_option("--resources", options->resources,
                    "Show the resource rows of these packages instead (P[,P...])")
-      ->delimiter(',');
+      ->delimiter(',')
+      ->check(NumberText("package identifier"));
   command->add_flag("--json", options->json, "Print JSON instead of a table");
   command->callback([options] { Run(*options); });
 }

@@ -10,7 +10,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -18,6 +17,7 @@
 #include "commands.h"
 #include "content_args.h"
 #include "index_numbers.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -85,7 +85,7 @@ void Run(const Options& options) {
     all_ok = all_ok && rebuilt.built;
   }
   if (options.json) {
-    std::cout << results.dump(2) << '\n';
+    PrintJson(results);
   } else {
     for (const auto& r : results) {
       std::printf("type %u: %s, %u groups, %zu entries\n", r["type"].get<uint32_t>(),

@@ -75,9 +75,12 @@ void AddResourceCommand(CLI::App& app) {
       ->required();
   command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
   command->add_option("--type", options->type, "Exercise type")->required();
-  command->add_option("--id", options->id, "Resource id, decimal or 0x-hex")->required();
+  command->add_option("--id", options->id, "Resource id, decimal or 0x-hex")
+      ->required()
+      ->check(NumberText("resource id"));
   command->add_option("--path-kind", options->pathKind, "local, url (default) or unc");
-  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3");
+  command->add_option("--order", options->order, "Quality folder order 1, 2 or 3")
+      ->check(CLI::Range(1u, 3u));
   command->add_flag("--no-media", options->noMedia, "Do not resolve media paths");
   command->add_flag("--json", options->json, "Print JSON instead of text");
   command->callback([options] { Run(*options); });

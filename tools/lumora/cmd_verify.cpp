@@ -148,7 +148,10 @@ void AddVerifyCommand(CLI::App& app) {
       ->required();
   command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
   command->add_option("--type", options->type, "Check only this exercise type");
-  command->add_option("--quality", options->quality, "Quality folders to check (default 1,2,3)");
+  command
+      ->add_option("--quality", options->quality,
+                   "Quality folders to check, each 1, 2 or 3 (default 1,2,3)")
+      ->check(ParsedBy([](const std::string& text) { ParseQualityFolders(text); }));
   command->add_flag("--json", options->json, "Print JSON instead of text");
   command->callback([options] { Run(*options); });
 }

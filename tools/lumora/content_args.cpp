@@ -25,6 +25,23 @@ uint32_t ParseNumber(const std::string& text, const char* what) {
   return static_cast<uint32_t>(value);
 }
 
+CLI::Validator ParsedBy(std::function<void(const std::string&)> parse) {
+  return CLI::Validator(
+      [parse](std::string& text) -> std::string {
+        try {
+          parse(text);
+          return {};
+        } catch (const CommandFailure& failure) {
+          return failure.what();
+        }
+      },
+      "");
+}
+
+CLI::Validator NumberText(const char* what) {
+  return ParsedBy([what](const std::string& text) { ParseNumber(text, what); });
+}
+
 uint32_t ParsePathKind(const std::string& text) {
   if (text == "local") return kPathLocal;
   if (text == "url") return kPathUrl;

@@ -5,15 +5,23 @@
 #include <lumora/lumora.h>
 #include <lumora/support/wide_text.h>
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace lumora::cli {
 
 // Decimal or 0x-prefixed hexadecimal; anything else is a CommandFailure naming `what`.
 uint32_t ParseNumber(const std::string& text, const char* what);
+
+// Makes a text option a usage error, reported while the arguments are parsed, when parse (one
+// of the parsers here) refuses its text with a CommandFailure.
+CLI::Validator ParsedBy(std::function<void(const std::string&)> parse);
+// Refuses a text that ParseNumber refuses.
+CLI::Validator NumberText(const char* what);
 
 // "local", "url" or "unc".
 uint32_t ParsePathKind(const std::string& text);

@@ -24,6 +24,11 @@ struct GlossaryOptions {
   std::string linked;  // FIRST or FIRST,SECOND
 };
 
+// The texts of --level and --linked: "MIN" is MIN and above, "MIN:MAX" as given (levels 0 to
+// 255); "FIRST" or "FIRST,SECOND" (SECOND 0 when absent). Anything else is a CommandFailure.
+void ParseLevels(const std::string& text, uint8_t& min_level, uint8_t& max_level);
+void ParseLinked(const std::string& text, uint32_t& first, uint32_t& second);
+
 // The entries whose written form contains the query (accents and case ignored), by letter.
 void PrintFoundWords(const CGloV6& glossary, const GlossaryOptions& options);
 // The entries that pass the filters, by letter.

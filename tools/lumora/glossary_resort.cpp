@@ -14,6 +14,7 @@
 #include "commands.h"
 #include "content_args.h"
 #include "glossary_resort.h"
+#include "printable_text.h"
 
 namespace lumora::cli {
 namespace {
@@ -29,7 +30,7 @@ void PrintLetters(const CGloV6& g, bool written, bool json) {
     }
     const nlohmann::ordered_json out = {
         {"words", g.sorted.size()}, {"letters", letters}, {"written", written}};
-    std::puts(out.dump(2).c_str());
+    PrintJson(out);
     return;
   }
   std::printf("%u words in %u letters%s\n", g.sorted.size(), g.letters.size(),

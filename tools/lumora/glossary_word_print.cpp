@@ -109,10 +109,9 @@ void PrintGlossaryWord(const CGloV6& glossary, const GlossaryOptions& options) {
   if (options.fnId > 0xFFFF || !glossary.getFN(static_cast<uint16_t>(options.fnId), fn)) {
     throw CommandFailure("no word " + std::to_string(options.fnId) + " in the glossary");
   }
-  if (options.quality > 0xFF) throw CommandFailure("quality folders go from 0 to 255");
   const Json word = WordJson(glossary, fn, static_cast<uint8_t>(options.quality));
   if (options.json) {
-    std::cout << word.dump(2) << '\n';
+    PrintJson(word);
   } else {
     PrintText(word);
   }

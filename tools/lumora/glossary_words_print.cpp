@@ -43,7 +43,8 @@ void PrintBuckets(const CGloV6& glossary, const WordBuckets& buckets, bool json)
   }
 }
 
-// "MIN" is MIN and above; "MIN:MAX" as given.
+}  // namespace
+
 void ParseLevels(const std::string& text, uint8_t& min_level, uint8_t& max_level) {
   if (text.empty()) return;
   const size_t colon = text.find(':');
@@ -55,7 +56,11 @@ void ParseLevels(const std::string& text, uint8_t& min_level, uint8_t& max_level
   max_level = static_cast<uint8_t>(max);
 }
 
-}  // namespace
+void ParseLinked(const std::string& text, uint32_t& first, uint32_t& second) {
+  const size_t comma = text.find(',');
+  first = ParseNumber(text.substr(0, comma), "linked word");
+  second = comma == std::string::npos ? 0 : ParseNumber(text.substr(comma + 1), "linked word");
+}
 
 void PrintFoundWords(const CGloV6& glossary, const GlossaryOptions& options) {
   WordBuckets buckets;
@@ -75,11 +80,9 @@ void PrintWordsByLetter(const CGloV6& glossary, const GlossaryOptions& options) 
   if (options.linked.empty()) {
     glossary.getWordsByLetter(buckets, options.classId, need_code, min_level, max_level, letterId);
   } else {
-    const size_t comma = options.linked.find(',');
-    const uint32_t first = ParseNumber(options.linked.substr(0, comma), "linked word");
-    const uint32_t second = comma == std::string::npos
-                                ? 0
-                                : ParseNumber(options.linked.substr(comma + 1), "linked word");
+    uint32_t first = 0;
+    uint32_t second = 0;
+    ParseLinked(options.linked, first, second);
     glossary.getLinkedWordsByLetter(buckets, first, second, options.classId, need_code, min_level,
                                     max_level, letterId);
   }

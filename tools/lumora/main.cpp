@@ -2,8 +2,14 @@
 
 #include "commands.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 namespace lumora::cli {
 
@@ -27,12 +33,30 @@ struct LogInstallation {
   ~LogInstallation() { lumora::RemoveLog(); }
 };
 
+// The library drops log lines it cannot write, so a folder that cannot take them is refused
+// here, while the user can still be told which folder and why.
+void InstallLogIn(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (!error && !std::filesystem::is_directory(folder, error)) {
+    error = std::make_error_code(std::errc::not_a_directory);
+  }
+  if (!error && ::access(folder.c_str(), W_OK | X_OK) != 0) {
+    error = std::error_code(errno, std::generic_category());
+  }
+  if (error) {
+    throw lumora::cli::CommandFailure("cannot use log folder " + folder + ": " + error.message());
+  }
+  lumora::InstallLog(folder, kLogFilesKept);
+}
+
 void AddLogFolderOption(CLI::App& app) {
   app.add_option_function<std::string>(
-         "--log-folder",
-         [](const std::string& folder) { lumora::InstallLog(folder, kLogFilesKept); },
-         "Write the library's internal log into DIR (the files of the last " +
-             std::to_string(kLogFilesKept) + " days are kept)")
+         "--log-folder", &InstallLogIn,
+         "Write the library's internal log into DIR, created if missing (the files of the last " +
+             std::to_string(kLogFilesKept) +
+             " days are kept); a DIR that cannot be written is "
+             "an error")
       ->type_name("DIR");
 }
 
