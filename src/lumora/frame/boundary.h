@@ -1,14 +1,13 @@
 // Every entry point runs its body through Guarded: whatever the body throws (an allocation
 // failure, a file-system error nobody turned into a result), the host gets the entry point's
 // failure result and the library stays usable. What was caught is not dropped: the entry point
-// and the error's text go to the internal log (when a host installed one) under
-// kBoundaryErrorCode.
+// (the caller's name, which both our compilers supply) and the error's text go to the internal log
+// (when a host installed one) under kBoundaryErrorCode.
 #pragma once
 
 #include <lumora/support/internal_log.h>
 
 #include <exception>
-#include <source_location>
 #include <string>
 #include <utility>
 
@@ -18,7 +17,7 @@ namespace lumora {
 inline constexpr int32_t kBoundaryErrorCode = 990;
 
 // Called from a handler: logs the error being handled. A log that cannot take it is let be.
-inline void ReportCaught(const std::source_location& where) noexcept {
+inline void ReportCaught(const char* where) noexcept {
   try {
     std::string what = "unknown error";
     try {
@@ -27,14 +26,13 @@ inline void ReportCaught(const std::source_location& where) noexcept {
       what = error.what();
     } catch (...) {
     }
-    ReportCodeText(kBoundaryErrorCode, std::string(where.function_name()) + ": " + what);
+    ReportCodeText(kBoundaryErrorCode, std::string(where) + ": " + what);
   } catch (...) {
   }
 }
 
 template <typename Result, typename Body>
-Result Guarded(Result failure, Body&& body,
-               std::source_location where = std::source_location::current()) noexcept {
+Result Guarded(Result failure, Body&& body, const char* where = __builtin_FUNCTION()) noexcept {
   try {
     return std::forward<Body>(body)();
   } catch (...) {
@@ -44,7 +42,7 @@ Result Guarded(Result failure, Body&& body,
 }
 
 template <typename Body>
-void Guarded(Body&& body, std::source_location where = std::source_location::current()) noexcept {
+void Guarded(Body&& body, const char* where = __builtin_FUNCTION()) noexcept {
   try {
     std::forward<Body>(body)();
   } catch (...) {
