@@ -104,6 +104,7 @@ class SampleRoot {
     std::error_code error;
     for (const auto& file : fs::directory_iterator(folder, error)) {
       const fs::path& path = file.path();
+      if (!file.is_regular_file()) continue;
       if (path.extension() == ".set" && fs::exists(fs::path(path).replace_extension(".idx"))) {
         continue;
       }
