@@ -3,12 +3,18 @@
 #include <lumora/platform/typed_array.h>
 
 #include <algorithm>
+#include <bit>
 
 namespace lumora {
 namespace {
 
-// Texts are most of a set file's bytes: they are encoded a block at a time, not unit by unit.
+// Texts are most of a set file's bytes: on a little-endian machine the units are already in
+// their stored order and go out as they are; elsewhere they are encoded a block at a time.
 void WriteUnits(Archive& ar, std::u16string_view units) {
+  if constexpr (std::endian::native == std::endian::little) {
+    ar.Write(units.data(), units.size() * 2);
+    return;
+  }
   uint8_t block[512];
   while (!units.empty()) {
     const size_t n = std::min(units.size(), sizeof block / 2);

@@ -1,4 +1,4 @@
-// Saving set files: a table's bytes are made in memory and handed to a FolderCommit, which
+// Saving set files: a table's bytes are made in memory when a FolderCommit asks for them, and it
 // replaces them on disk together with their checksums in CRCFile.ini, all or nothing.
 #pragma once
 
@@ -16,15 +16,23 @@ namespace lumora {
 // The file name of table `name`: the name in code page 1252 followed by `extension`.
 std::string SetFileName(std::u16string_view name, std::string_view extension = ".set");
 
-// A whole set file: `version`, then whatever `write_records` writes.
-std::string SetFileBytes(uint32_t version, const std::function<void(Archive&)>& write_records);
+// A whole set file: `version`, then whatever `write_records` writes. `expected_size` is room
+// made beforehand: a save mostly writes a file of about the size it replaces.
+std::string SetFileBytes(uint32_t version, const std::function<void(Archive&)>& write_records,
+                         uint64_t expected_size = 0);
 
 // Adds table `name` to `commit`, written with `version`.
 template <typename Record>
 void StageSetTable(FolderCommit& commit, std::u16string_view name, uint32_t version,
                    SetTable<Record>& table) {
-  commit.Add(SetFileName(name),
-             SetFileBytes(version, [&](Archive& ar) { table.WriteRecords(ar, version); }), true);
+  const std::string file = SetFileName(name);
+  commit.AddProduced(
+      file,
+      [&table, version, size = commit.CurrentSize(file)] {
+        return SetFileBytes(
+            version, [&](Archive& ar) { table.WriteRecords(ar, version); }, size);
+      },
+      true);
 }
 
 // Commits and reduces the outcome to the bool that the table operations answer; the reason of

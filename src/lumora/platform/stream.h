@@ -39,6 +39,8 @@ class FileStream : public Stream {
 // A store-only stream that collects what is written, for files that are saved whole.
 class StringSink : public Stream {
  public:
+  // Room for `n` bytes at once, so that a large file is not copied each time the string grows.
+  void Reserve(size_t n) { bytes_.reserve(n); }
   size_t Read(void*, size_t) override { return 0; }
   bool Write(const void* buffer, size_t n) override {
     bytes_.append(static_cast<const char*>(buffer), n);

@@ -8,8 +8,11 @@
 #include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cstring>
+#include <future>
 
 namespace lumora {
 namespace {
@@ -42,11 +45,24 @@ WriteStatus HoldTarget(const std::string& path, std::vector<std::unique_ptr<File
 }  // namespace
 
 void FolderCommit::Add(const std::string& name, std::string bytes, bool checksummed) {
+  AddProduced(
+      name, [bytes = std::move(bytes)]() mutable { return std::move(bytes); }, checksummed);
+}
+
+void FolderCommit::AddProduced(const std::string& name, std::function<std::string()> produce,
+                               bool checksummed) {
   if (Staged* same = FindNamed(files_, name, [](const Staged& s) { return s.name; })) {
-    *same = {name, std::move(bytes), checksummed};
+    *same = {name, std::move(produce), checksummed};
     return;
   }
-  files_.push_back({name, std::move(bytes), checksummed});
+  files_.push_back({name, std::move(produce), checksummed});
+}
+
+uint64_t FolderCommit::CurrentSize(const std::string& name) const {
+  struct stat st;
+  return ::stat((folder_ + name).c_str(), &st) == 0 && S_ISREG(st.st_mode)
+             ? static_cast<uint64_t>(st.st_size)
+             : 0;
 }
 
 void FolderCommit::SetListValue(std::string key, std::string value) {
@@ -79,7 +95,14 @@ WriteStatus FolderCommit::Commit() {
   if (WriteStatus checked = CheckTargets(held); !checked.ok()) return checked;
   std::vector<std::string> staged;
   ListValues list;
-  WriteStatus status = StageFiles(staged, list);
+  WriteStatus status;
+  try {
+    status = StageFiles(staged, list);
+  } catch (...) {
+    // Making some file's bytes failed (no memory): nothing of the save may stay behind.
+    Discard(staged);
+    throw;
+  }
   if (status.ok() && UsesList()) status = StageList(staged, list);
   if (status.ok()) status = FlushStaged(staged);
   if (status.ok() && staged.size() > 1) status = WriteJournal(staged);
@@ -100,14 +123,28 @@ WriteStatus FolderCommit::CheckTargets(std::vector<std::unique_ptr<File>>& held)
 }
 
 WriteStatus FolderCommit::StageFiles(std::vector<std::string>& staged, ListValues& list) const {
-  for (const Staged& file : files_) {
+  if (files_.empty()) return {};
+  // Only the making of bytes runs on the other thread; every disk step stays on this one, in
+  // file order.
+  const auto policy = files_.size() > 1 ? std::launch::async : std::launch::deferred;
+  auto make = [&](size_t i) {
+    return std::async(policy, [&file = files_[i]] {
+      Made made{file.produce(), 0};
+      if (file.checksummed) made.crc = Crc32(made.bytes.data(), made.bytes.size());
+      return made;
+    });
+  };
+  std::future<Made> next = make(0);
+  for (size_t i = 0; i < files_.size(); ++i) {
+    const Made made = next.get();
+    if (i + 1 < files_.size()) next = make(i + 1);
+    const Staged& file = files_[i];
     const std::string path = folder_ + file.name;
     // Flushed all together once the list is staged too (FlushStaged).
-    if (WriteStatus written = StageFile(path, file.bytes, false); !written.ok()) return written;
+    if (WriteStatus written = StageFile(path, made.bytes, false); !written.ok()) return written;
     staged.push_back(file.name);
     if (!file.checksummed) continue;
-    const uint32_t crc = Crc32(file.bytes.data(), file.bytes.size());
-    list.emplace_back(file.name, xCRCFile2::ListChecksumText(crc));
+    list.emplace_back(file.name, xCRCFile2::ListChecksumText(made.crc));
     list.emplace_back("DATE_" + file.name, xCRCFile2::ListDate(StagingPath(path)));
   }
   return {};

@@ -24,6 +24,7 @@
 #include <lumora/platform/write_status.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -41,6 +42,13 @@ class FolderCommit {
   // Replaces file `name` of the folder with `bytes`; `checksummed` also records its checksum
   // and date in the folder's CRCFile.ini. A name added twice keeps its last bytes.
   void Add(const std::string& name, std::string bytes, bool checksummed);
+  // The same with bytes that `produce` makes while the save runs, after every target has been
+  // checked. Each file's bytes are made on another thread while the file before it is written,
+  // so that making a large table and writing the one before it overlap; whatever `produce`
+  // reads must stay as it is until Commit returns.
+  void AddProduced(const std::string& name, std::function<std::string()> produce, bool checksummed);
+  // The size of file `name` of the folder as it is now; 0 when it does not exist.
+  uint64_t CurrentSize(const std::string& name) const;
   // Sets one more key of CRCFile.ini's section Main together with the files.
   void SetListValue(std::string key, std::string value);
 
@@ -51,8 +59,13 @@ class FolderCommit {
  private:
   struct Staged {
     std::string name;
-    std::string bytes;
+    std::function<std::string()> produce;
     bool checksummed;
+  };
+  // A file's bytes as made, with their checksum when the file is checksummed.
+  struct Made {
+    std::string bytes;
+    uint32_t crc = 0;
   };
   using ListValues = std::vector<std::pair<std::string, std::string>>;
 
