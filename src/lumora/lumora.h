@@ -13,6 +13,8 @@
 #include <lumora/lexicon/grammar.h>
 #include <lumora/packages/package_records.h>
 #include <lumora/platform/keyed_table.h>
+#include <lumora/platform/progress.h>
+#include <lumora/platform/typed_array.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_ref.h>
@@ -96,6 +98,24 @@ LUMORA_EXPORT bool lmCloseDiagData();
 // The diagnosis objects of the request's discipline, or null; valid until lmClose.
 LUMORA_EXPORT CLessonsData* lmGetDiagLessonsData(const lumora::ContentRequest* request);
 LUMORA_EXPORT CTestableData* lmGetDiagTestableData(const lumora::ContentRequest* request);
+
+// Exports the packages `packageIds` of a discipline opened with lmOpen_Database, with the media
+// of `qualityFolders`, into destinationRoot + "D%03d/" (the discipline's number), whose empty
+// Content.mdb the caller made: see packages/package_export.h for what is written and the
+// choices made. Every problem is appended to `report` as a line (narrow text, code page 1252);
+// true only when `report` is empty at the end. `progress` may be null.
+LUMORA_EXPORT bool lmExportPackage(uint32_t disciplineId, lumora::DWordArray packageIds,
+                                   lumora::ByteArray qualityFolders, const char* destinationRoot,
+                                   const lumora::Progress* progress, std::string* report);
+// The same export of lists the caller composed: the packages of `packages` that `packageIds`
+// names with their translations, and every row of `packageResources`. The discipline needs no
+// database. The diagnosis package file is written only when withDiagnosis is nonzero. A list
+// that is null counts as empty; the lists stay the caller's.
+LUMORA_EXPORT bool lmExportCustomizedPackage(
+    const lumora::PackageList* packages, const lumora::TranslationList* translations,
+    const lumora::PackageResourceList* packageResources, const lumora::DWordArray* packageIds,
+    uint32_t disciplineId, const lumora::ByteArray* qualityFolders, const char* destinationRoot,
+    const lumora::Progress* progress, std::string* report, uint8_t withDiagnosis);
 
 }  // extern "C"
 

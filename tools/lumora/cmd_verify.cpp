@@ -33,19 +33,6 @@ struct Options {
   bool json = false;
 };
 
-ByteArray ParseQualityFolders(const std::string& text) {
-  ByteArray folders;
-  std::stringstream list(text);
-  std::string item;
-  while (std::getline(list, item, ',')) {
-    const uint32_t folder = ParseNumber(item, "quality folder");
-    if (folder < 1 || folder > 3) throw CommandFailure("quality folders are 1, 2 or 3: " + item);
-    folders.Add(static_cast<uint8_t>(folder));
-  }
-  if (folders.size() == 0) throw CommandFailure("no quality folder given");
-  return folders;
-}
-
 // The courses below a local root, from the names of its "C%04d" folders, in ascending order.
 std::vector<uint32_t> CoursesBelow(const std::string& local_root) {
   std::vector<uint32_t> courses;

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <sstream>
 
 #include "commands.h"
 #include "printable_text.h"
@@ -23,6 +24,19 @@ uint32_t ParseNumber(const std::string& text, const char* what) {
     throw CommandFailure(std::string("not a valid ") + what + ": " + text);
   }
   return static_cast<uint32_t>(value);
+}
+
+ByteArray ParseQualityFolders(const std::string& text) {
+  ByteArray folders;
+  std::stringstream list(text);
+  std::string item;
+  while (std::getline(list, item, ',')) {
+    const uint32_t folder = ParseNumber(item, "quality folder");
+    if (folder < 1 || folder > 3) throw CommandFailure("quality folders are 1, 2 or 3: " + item);
+    folders.Add(static_cast<uint8_t>(folder));
+  }
+  if (folders.size() == 0) throw CommandFailure("no quality folder given");
+  return folders;
 }
 
 CLI::Validator ParsedBy(std::function<void(const std::string&)> parse) {

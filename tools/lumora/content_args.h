@@ -17,6 +17,9 @@ namespace lumora::cli {
 // Decimal or 0x-prefixed hexadecimal; anything else is a CommandFailure naming `what`.
 uint32_t ParseNumber(const std::string& text, const char* what);
 
+// Quality folders "1,2,3": each 1, 2 or 3, at least one.
+ByteArray ParseQualityFolders(const std::string& text);
+
 // Makes a text option a usage error, reported while the arguments are parsed, when parse (one
 // of the parsers here) refuses its text with a CommandFailure.
 CLI::Validator ParsedBy(std::function<void(const std::string&)> parse);

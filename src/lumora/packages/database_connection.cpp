@@ -108,20 +108,43 @@ bool DatabaseConnection::Close() {
   return true;
 }
 
-bool DatabaseConnection::Execute(const WideText& sql) {
+template <typename Action>
+bool DatabaseConnection::Run(Action&& action) {
   if (isOpen == 0) {
     ReportCode(kLogExecuteClosed);
     lastError = kNotOpen;
     return false;
   }
   try {
-    connection->Execute(sql.view(), ado::kExecuteNoRecords);
+    action(*connection);
   } catch (const ado::Error& error) {
     lastError = kDatabaseError;
     ReportError(error, kLogExecuteFailed);
     return false;
   }
   return true;
+}
+
+bool DatabaseConnection::Execute(const WideText& sql) {
+  return Run([&](ado::Connection& c) { c.Execute(sql.view(), ado::kExecuteNoRecords); });
+}
+
+std::unique_ptr<ado::Command> DatabaseConnection::Prepare(const std::string& sql) {
+  std::unique_ptr<ado::Command> command;
+  Run([&](ado::Connection& c) { command = std::make_unique<ado::Command>(c, sql); });
+  return command;
+}
+
+bool DatabaseConnection::Execute(ado::Command& command, const std::vector<ado::Variant>& values) {
+  return Run([&](ado::Connection&) { command.Execute(values); });
+}
+
+bool DatabaseConnection::BeginTransaction() {
+  return Run([](ado::Connection& c) { c.BeginTrans(); });
+}
+
+bool DatabaseConnection::CommitTransaction() {
+  return Run([](ado::Connection& c) { c.CommitTrans(); });
 }
 
 RecordsetHolder* DatabaseConnection::OpenRecordset(const WideText& sql) {

@@ -5,6 +5,7 @@
 // for a value that cannot be converted (a NULL integer, say), and the caller decides.
 #pragma once
 
+#include <lumora/platform/ado/command.h>
 #include <lumora/platform/ado/connection.h>
 #include <lumora/platform/ado/error.h>
 #include <lumora/platform/ado/recordset.h>
@@ -53,6 +54,13 @@ class DatabaseConnection : public Object {
   bool Close();
   // A statement that gives no rows (CREATE TABLE, INSERT).
   bool Execute(const WideText& sql);
+  // A statement run once per row with bound values at its "?" placeholders (database_command);
+  // null, with the error recorded, when it cannot be prepared. Commands go before Close.
+  std::unique_ptr<ado::Command> Prepare(const std::string& sql);
+  bool Execute(ado::Command& command, const std::vector<ado::Variant>& values);
+  // Statements between the two reach the file together.
+  bool BeginTransaction();
+  bool CommitTransaction();
   // A SELECT with at least one row; null with lastError kNoRow when it gives none.
   RecordsetHolder* OpenRecordset(const WideText& sql);
   void CloseRecordset(RecordsetHolder* holder);
@@ -81,6 +89,9 @@ class DatabaseConnection : public Object {
   std::vector<WideText> tableNames;
 
  private:
+  // Runs `action` on the open connection, recording a database error as Execute does.
+  template <typename Action>
+  bool Run(Action&& action);
   bool Connect(const std::string& connectionString, const std::string& user,
                const std::string& password, uint8_t readOnly);
   void CreateIdentifierTable();

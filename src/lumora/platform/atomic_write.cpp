@@ -37,28 +37,54 @@ WriteStatus CheckReplaceable(const std::string& path) {
   return {};
 }
 
-WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush) {
+namespace {
+
+// What went wrong while the body of a staging file was written: 0, or the errno with the file
+// to name (the target, or the source of a copy) and what failed.
+struct BodyFailure {
+  int error = 0;
+  const char* what = "cannot write it";
+  const std::string* file = nullptr;
+};
+
+// Creates StagingPath(path) with the target's permission bits (0666 for a new file), lets
+// `write_body` fill it, flushes it unless `flush` is false and closes it. A failure removes the
+// staging file again.
+template <typename WriteBody>
+WriteStatus Stage(const std::string& path, bool flush, WriteBody&& write_body) {
   struct stat old;
   const bool replacing = ::stat(path.c_str(), &old) == 0;
   const unsigned mode = replacing ? (old.st_mode & 07777) : 0666;
   const std::string staging = StagingPath(path);
   int fd = -1;
-  int error = disk::CreateForWriting(staging, mode, &fd);
-  const char* what = "cannot create a file beside it";
-  if (error == 0) {
-    what = "cannot write it";
-    error = disk::WriteAll(fd, bytes.data(), bytes.size());
-    if (error == 0 && replacing) error = disk::SetMode(fd, mode);
-    if (error == 0 && flush && (error = disk::SyncFile(fd)) != 0) what = "cannot flush it to disk";
+  BodyFailure failure{disk::CreateForWriting(staging, mode, &fd), "cannot create a file beside it"};
+  if (failure.error == 0) {
+    failure = write_body(fd);
+    if (failure.error == 0 && replacing) failure.error = disk::SetMode(fd, mode);
+    if (failure.error == 0 && flush && (failure.error = disk::SyncFile(fd)) != 0)
+      failure.what = "cannot flush it to disk";
     const int closed = disk::CloseFile(fd);
-    if (error == 0 && (error = closed) != 0) what = "cannot close it";
+    if (failure.error == 0 && (failure.error = closed) != 0) failure.what = "cannot close it";
   }
-  if (error == 0) return {};
+  if (failure.error == 0) return {};
   disk::Remove(staging);
-  return WriteStatus::Failure(path, what, error);
+  return WriteStatus::Failure(failure.file ? *failure.file : path, failure.what, failure.error);
 }
 
-WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes) {
+}  // namespace
+
+WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush) {
+  return Stage(path, flush, [&](int fd) {
+    return BodyFailure{disk::WriteAll(fd, bytes.data(), bytes.size())};
+  });
+}
+
+namespace {
+
+// Checks `path`, has `stage` write its staging file (flushed unless flushing is deferred) and
+// renames it into place, holding the folder's lock throughout.
+template <typename StageIt>
+WriteStatus Replace(const std::string& path, StageIt&& stage) {
   const std::string folder = FolderPart(path);
   FolderLock lock;
   if (int error = lock.Acquire(folder, FolderLock::Mode::kExclusive)) {
@@ -66,7 +92,7 @@ WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes)
   }
   if (WriteStatus check = CheckReplaceable(path); !check.ok()) return check;
   const bool flush = !flush_deferred;
-  if (WriteStatus staged = StageFile(path, bytes, flush); !staged.ok()) return staged;
+  if (WriteStatus staged = stage(flush); !staged.ok()) return staged;
   if (int error = disk::Rename(StagingPath(path), path)) {
     disk::Remove(StagingPath(path));
     return WriteStatus::Failure(path, "cannot rename the new file into place", error);
@@ -77,19 +103,32 @@ WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes)
   return {};
 }
 
-WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination) {
-  const int fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
-  std::string bytes;
-  char block[64 * 1024];
-  ssize_t got;
-  while ((got = ::read(fd, block, sizeof block)) > 0 || (got < 0 && errno == EINTR)) {
-    if (got > 0) bytes.append(block, static_cast<size_t>(got));
+// The rest of the open source, a block at a time.
+BodyFailure CopyBody(int source_fd, const std::string& source, int fd) {
+  static thread_local char block[256 * 1024];
+  ssize_t got = 0;
+  while ((got = ::read(source_fd, block, sizeof block)) > 0 || (got < 0 && errno == EINTR)) {
+    if (got <= 0) continue;
+    if (int error = disk::WriteAll(fd, block, static_cast<size_t>(got))) return {error};
   }
-  const int read_error = got < 0 ? errno : 0;
-  ::close(fd);
-  if (read_error != 0) return WriteStatus::Failure(source, "cannot be read", read_error);
-  return WriteFileAtomically(destination, bytes);
+  if (got < 0) return {errno, "cannot be read", &source};
+  return {};
+}
+
+}  // namespace
+
+WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes) {
+  return Replace(path, [&](bool flush) { return StageFile(path, bytes, flush); });
+}
+
+WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination) {
+  const int source_fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
+  if (source_fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
+  WriteStatus status = Replace(destination, [&](bool flush) {
+    return Stage(destination, flush, [&](int fd) { return CopyBody(source_fd, source, fd); });
+  });
+  ::close(source_fd);
+  return status;
 }
 
 DeferredFlush::DeferredFlush(std::string folder)

@@ -30,7 +30,7 @@ WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flus
 WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes);
 
 // Copies the file at `source` over `destination` as WriteFileAtomically writes (overwriting
-// an existing destination); the source is read whole first.
+// an existing destination), a block at a time, with the source's permission bits.
 WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination);
 
 // Writing a whole new tree of many files (a sample, an export): while one lives on the calling

@@ -1,10 +1,10 @@
 #include <lumora/resources/content_request.h>
+#include <lumora/platform/atomic_write.h>
 #include <lumora/resources/media_copy.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <system_error>
 
 namespace lumora {
@@ -26,10 +26,7 @@ std::string LocalPathOf(const std::string& unc_path, const std::string& root) {
 
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name) {
   if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
-  std::error_code ec;
-  std::filesystem::copy_file(from, folder + name, std::filesystem::copy_options::overwrite_existing,
-                             ec);
-  return !ec;
+  return CopyFileAtomically(from, folder + name).ok();
 }
 
 MediaCopier::MediaCopier(const std::string& destination_root, uint32_t destination_id,

@@ -49,6 +49,11 @@ class Connection {
   // Runs one statement that gives no rows; `options` must carry kExecuteNoRecords.
   void Execute(std::u16string_view sql, int32_t options);
 
+  // Groups the statements that follow until CommitTrans: their changes reach the file together,
+  // with one flush to disk instead of one per statement.
+  void BeginTrans();
+  void CommitTrans();
+
   // The tables rowset: TABLE_NAME and TABLE_TYPE ("TABLE", "VIEW" or "SYSTEM TABLE"), one row
   // per table or view, by name.
   std::unique_ptr<Recordset> OpenSchemaTables();

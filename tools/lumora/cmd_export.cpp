@@ -1,0 +1,226 @@
+// `lumora export ROOT -d ID (--packages P[,P...] [--quality 1,2,3] | --custom LISTS.json
+// [--with-diagnosis]) --to DEST [--progress] [--json]`: exports packages of a discipline into
+// DEST/D%03d/. The tool makes what the library expects to find there: the folder, its empty
+// Content.mdb and, when DEST has none, a Content.ini whose one section describes the exported
+// discipline, so that the export is a content root of its own.
+#include <lumora/lumora.h>
+#include <lumora/packages/package_export.h>
+#include <lumora/support/paths.h>
+#include <lumora/support/profile_file.h>
+
+#include <nlohmann/json.hpp>
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <vector>
+
+#include "commands.h"
+#include "content_args.h"
+#include "export_lists.h"
+#include "export_progress.h"
+#include "printable_text.h"
+
+namespace lumora::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Options {
+  std::string root;
+  uint32_t discipline = 0;
+  std::vector<std::string> packages;
+  std::string quality = "1,2,3";
+  std::string custom;
+  bool withDiagnosis = false;
+  std::string destination;
+  bool progress = false;
+  bool json = false;
+};
+
+// The keys of the source's section for the discipline that the exported tree keeps. Local is
+// left out: the exported discipline's files lie below the new root.
+constexpr const char* kCopiedKeys[] = {"Discipline", "Type", "Param", "URL", "UNC"};
+
+std::string SectionName(int number) {
+  char name[8];
+  std::snprintf(name, sizeof name, "%03d", number);
+  return name;
+}
+
+// The discipline's section of the source's Content.ini, as the destination's section 001.
+std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
+  ProfileFile ini;
+  if (!ini.Load(WithBackslash(root) + "Content.ini")) {
+    throw CommandFailure(root + ": Content.ini cannot be read");
+  }
+  for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
+    if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
+    std::string text = "[001]\r\n";
+    for (const char* key : kCopiedKeys) text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
+    return text;
+  }
+  throw CommandFailure(root + ": Content.ini has no section for discipline " +
+                       std::to_string(discipline));
+}
+
+// DEST with its export folder, an empty database there unless one exists, and a Content.ini
+// unless DEST has one. Answers the export folder.
+std::string PrepareDestination(const Options& options) {
+  const fs::path destination(options.destination);
+  std::error_code error;
+  if (fs::exists(destination, error) && !fs::is_directory(destination, error)) {
+    throw CommandFailure(options.destination + ": is not a folder");
+  }
+  const std::string exportFolder = ExportFolderOf(options.destination, options.discipline);
+  fs::create_directories(exportFolder, error);
+  if (error) throw CommandFailure(exportFolder + ": cannot be created: " + error.message());
+  // An empty file is an empty database; one that exists is left for the export to judge.
+  const std::string database = exportFolder + "Content.mdb";
+  if (!fs::exists(database) && !std::ofstream(database, std::ios::binary)) {
+    throw CommandFailure(database + ": cannot be created");
+  }
+  const std::string ini = WithBackslash(options.destination) + "Content.ini";
+  if (!fs::exists(ini)) {
+    std::ofstream out(ini, std::ios::binary);
+    out << ExportedContentIni(options.root, options.discipline);
+    if (!out) throw CommandFailure(ini + ": cannot be written");
+  }
+  return exportFolder;
+}
+
+struct Written {
+  uint64_t files = 0;
+  uint64_t bytes = 0;
+};
+
+// What the export wrote: the files of the export folder (its database aside) and of Classes.
+Written WrittenBy(const std::string& exportFolder, const std::string& destination) {
+  Written written;
+  std::error_code error;
+  for (const std::string& folder : {exportFolder, WithBackslash(destination) + "Classes"}) {
+    for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end;
+         it.increment(error)) {
+      if (!it->is_regular_file(error) || it->path() == fs::path(exportFolder + "Content.mdb"))
+        continue;
+      ++written.files;
+      written.bytes += it->file_size(error);
+    }
+  }
+  return written;
+}
+
+std::vector<std::string> ReportLines(const std::string& report) {
+  std::vector<std::string> lines;
+  std::istringstream in(report);
+  for (std::string line; std::getline(in, line);) lines.push_back(PrintableText(line, kWindowsAnsi));
+  return lines;
+}
+
+bool ShowsProgress(const Options& options) {
+  return !options.json && (options.progress || ::isatty(STDERR_FILENO));
+}
+
+void Run(const Options& options) {
+  const bool custom = !options.custom.empty();
+  std::optional<CustomLists> lists;
+  if (custom) lists = ReadCustomLists(options.custom);
+  DWordArray packageIds;
+  for (const std::string& id : options.packages) packageIds.Add(ParseNumber(id, "package"));
+  const ByteArray quality = ParseQualityFolders(options.quality);
+  OpenedContent content(options.root, options.discipline, !custom);
+  if (!content.ok()) {
+    throw CommandFailure("cannot open discipline " + std::to_string(options.discipline) +
+                         (custom ? "" : " with its package database") + " below " +
+                         options.root);
+  }
+  const std::string exportFolder = PrepareDestination(options);
+
+  std::string report;
+  uint32_t resources = 0;
+  if (custom) resources = lists->packageResources.size();
+  std::unique_ptr<ExportProgressBar> bar;
+  Progress progress;
+  if (ShowsProgress(options)) {
+    // The number of rows is known once the library has read them: the range tells it.
+    progress.onRange = [&](uint32_t maximum) {
+      bar = std::make_unique<ExportProgressBar>(maximum - 16);
+      bar->Callbacks().onRange(maximum);
+    };
+    progress.onPosition = [&](uint32_t position) {
+      if (bar) bar->Callbacks().onPosition(position);
+    };
+  }
+  progress.onRange = [&, draw = progress.onRange](uint32_t maximum) {
+    resources = maximum - 16;
+    if (draw) draw(maximum);
+  };
+  const bool ok =
+      custom ? lmExportCustomizedPackage(&lists->packages, &lists->translations,
+                                         &lists->packageResources, &lists->packageIds,
+                                         options.discipline, &quality,
+                                         options.destination.c_str(), &progress, &report,
+                                         options.withDiagnosis)
+             : lmExportPackage(options.discipline, packageIds, quality,
+                               options.destination.c_str(), &progress, &report);
+  bar.reset();
+  const Written written = WrittenBy(exportFolder, options.destination);
+  const std::vector<std::string> lines = ReportLines(report);
+  if (options.json) {
+    PrintJson({{"ok", ok},
+               {"exportFolder", PrintableText(exportFolder)},
+               {"report", lines},
+               {"resources", resources},
+               {"filesCopied", written.files},
+               {"bytesCopied", written.bytes}});
+  } else {
+    for (const std::string& line : lines) std::printf("%s\n", line.c_str());
+    std::printf("%s: %u resources, %llu files, %llu bytes%s\n",
+                PrintableText(exportFolder).c_str(), resources,
+                static_cast<unsigned long long>(written.files),
+                static_cast<unsigned long long>(written.bytes), ok ? "" : " (with problems)");
+  }
+  if (!ok) throw CommandFailure("the export reported problems");
+}
+
+void AddExportCommand(CLI::App& app) {
+  auto options = std::make_shared<Options>();
+  auto* command = app.add_subcommand("export", "Export packages of a discipline");
+  command->add_option("ROOT", options->root, "Content root (the folder of Content.ini)")
+      ->required();
+  command->add_option("-d,--discipline", options->discipline, "Discipline identifier")->required();
+  auto* packages = command
+                       ->add_option("--packages", options->packages,
+                                    "Packages to export, from the discipline's database (P[,P...])")
+                       ->delimiter(',')
+                       ->check(NumberText("package"));
+  auto* custom = command->add_option("--custom", options->custom,
+                                     "Export the lists of this JSON file instead (see README)");
+  packages->excludes(custom);
+  command
+      ->add_option("--quality", options->quality,
+                   "Media quality folders to export, each 1, 2 or 3 (default 1,2,3)")
+      ->check(ParsedBy([](const std::string& text) { ParseQualityFolders(text); }));
+  command
+      ->add_flag("--with-diagnosis", options->withDiagnosis,
+                 "With --custom: write the diagnosis package file too")
+      ->needs(custom);
+  command->add_option("--to", options->destination, "Destination root")->required();
+  command->add_flag("--progress", options->progress, "Show the progress bar even off a terminal");
+  command->add_flag("--json", options->json, "Print JSON instead of text (no progress bar)");
+  command->callback([options, packages, custom] {
+    if (packages->count() == 0 && custom->count() == 0) {
+      throw CLI::RequiredError("--packages or --custom");
+    }
+    Run(*options);
+  });
+}
+
+const CommandRegistration reg{"export", &AddExportCommand};
+
+}  // namespace
+}  // namespace lumora::cli
