@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "fixtures/temp_dir.h"
+#include "resources/types/video_type_builders.h"
 
 namespace lumora {
 namespace {
@@ -144,10 +145,8 @@ TEST_P(PartialGlossary, CopiesSoundFilesPerQualityAndReportsTheMissingOnes) {
   for (const char* name : {"Q2/000/11.swf", "Q1/000/11.swf", "Q2/000/15.swf", "Q2/012/34.swf"}) {
     SourceFile(name);
   }
-  ByteArray qualities;
-  qualities.Add(2);
-  qualities.Add(1);
-  EXPECT_TRUE(Export(qualities)) << "a missing sound file does not fail the export";
+  EXPECT_TRUE(Export(testing::QualityFolderList({2, 1})))
+      << "a missing sound file does not fail the export";
   const std::string from = source.folder;
   EXPECT_EQ(report, from + "Q1/000/15.swf is missing.\n" + from + "Q1/012/34.swf is missing.\n");
   for (const char* name : {"Q2/000/11.swf", "Q1/000/11.swf", "Q2/000/15.swf", "Q2/012/34.swf"}) {
@@ -162,9 +161,7 @@ TEST_P(PartialGlossary, CopiesSoundFilesPerQualityAndReportsTheMissingOnes) {
 TEST_P(PartialGlossary, FailedFoldersAndCopiesAreReportedButTheGlossaryIsSaved) {
   SourceFile("Q2/000/11.swf");
   dir.Write("export/Q2", "a file where the quality folder should be");
-  ByteArray qualities;
-  qualities.Add(2);
-  EXPECT_FALSE(Export(qualities));
+  EXPECT_FALSE(Export(testing::QualityFolderList({2})));
   const std::string from = source.folder;
   EXPECT_EQ(report, "Can not create directory : " + exported +
                         "Q2/000/\nCan not copy file: " + from + "Q2/000/11.swf\n" + from +
