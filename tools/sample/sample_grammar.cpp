@@ -5,8 +5,10 @@
 #include <lumora/support/paths.h>
 
 #include <array>
+#include <cstdio>
 
 #include "sample/sample_dates.h"
+#include "sample/sample_files.h"
 
 namespace lumora::sample {
 namespace {
@@ -91,6 +93,37 @@ void AddBubbles(CGramV6& g, const CourseTexts& texts) {
   g.bubbles.Insert({kEnglish, 2, 1, 1, u"Regular verbs follow the pattern."});
 }
 
+// The media the host shows with a point: the pictures of every point that has some, one file
+// per picture in each quality folder, in Q<q>/<point, three digits>.
+bool WritePictureFiles(const CGramV6& g, std::string* error) {
+  for (const GrPicturesRecord& picture : g.pictures) {
+    for (int quality : {1, 2, 3}) {
+      char name[32];
+      std::snprintf(name, sizeof name, "Q%d%c%03d%c%02d.swf", quality, kPathSeparator,
+                    static_cast<int>(picture.pointId), kPathSeparator,
+                    static_cast<int>(picture.attrA));
+      const std::string bytes = "sample grammar picture " + std::to_string(picture.pointId) + "." +
+                                std::to_string(picture.attrA) + "\n";
+      if (!WriteBytesFile(g.folder + name, bytes, error)) return false;
+    }
+  }
+  return true;
+}
+
+// The grammar resource files the parts name by attrD. The library never decodes them, it only
+// copies them into exports, so a few placeholder bytes stand in for their content.
+bool WriteResourceFiles(const CGramV6& g, std::string* error) {
+  for (const GrPartsRecord& part : g.parts) {
+    if (part.attrD == 0) continue;
+    const std::string path = g.folder + NumberedName('r', part.attrD) + ".ars";
+    if (!WriteBytesFile(path, "sample grammar resource " + std::to_string(part.attrD) + "\n",
+                        error)) {
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 bool WriteSampleGrammar(const std::string& root, uint8_t language, std::string* error) {
@@ -105,7 +138,8 @@ bool WriteSampleGrammar(const std::string& root, uint8_t language, std::string* 
     *error = "cannot write the grammar in " + grammar.folder;
     return false;
   }
-  return PinListedDates(grammar.folder, error);
+  return WritePictureFiles(grammar, error) && WriteResourceFiles(grammar, error) &&
+         PinListedDates(grammar.folder, error);
 }
 
 }  // namespace lumora::sample
