@@ -14,6 +14,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -47,7 +48,7 @@ struct Options {
 constexpr const char* kCopiedKeys[] = {"Discipline", "Type", "Param", "URL", "UNC"};
 
 std::string SectionName(int number) {
-  char name[8];
+  char name[16];
   std::snprintf(name, sizeof name, "%03d", number);
   return name;
 }
@@ -61,7 +62,8 @@ std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
   for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
     if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
     std::string text = "[001]\r\n";
-    for (const char* key : kCopiedKeys) text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
+    for (const char* key : kCopiedKeys)
+      text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
     return text;
   }
   throw CommandFailure(root + ": Content.ini has no section for discipline " +
@@ -117,7 +119,8 @@ Written WrittenBy(const std::string& exportFolder, const std::string& destinatio
 std::vector<std::string> ReportLines(const std::string& report) {
   std::vector<std::string> lines;
   std::istringstream in(report);
-  for (std::string line; std::getline(in, line);) lines.push_back(PrintableText(line, kWindowsAnsi));
+  for (std::string line; std::getline(in, line);)
+    lines.push_back(PrintableText(line, kWindowsAnsi));
   return lines;
 }
 
@@ -135,8 +138,7 @@ void Run(const Options& options) {
   OpenedContent content(options.root, options.discipline, !custom);
   if (!content.ok()) {
     throw CommandFailure("cannot open discipline " + std::to_string(options.discipline) +
-                         (custom ? "" : " with its package database") + " below " +
-                         options.root);
+                         (custom ? "" : " with its package database") + " below " + options.root);
   }
   const std::string exportFolder = PrepareDestination(options);
 
@@ -162,11 +164,10 @@ void Run(const Options& options) {
   const bool ok =
       custom ? lmExportCustomizedPackage(&lists->packages, &lists->translations,
                                          &lists->packageResources, &lists->packageIds,
-                                         options.discipline, &quality,
-                                         options.destination.c_str(), &progress, &report,
-                                         options.withDiagnosis)
-             : lmExportPackage(options.discipline, packageIds, quality,
-                               options.destination.c_str(), &progress, &report);
+                                         options.discipline, &quality, options.destination.c_str(),
+                                         &progress, &report, options.withDiagnosis)
+             : lmExportPackage(options.discipline, packageIds, quality, options.destination.c_str(),
+                               &progress, &report);
   bar.reset();
   const Written written = WrittenBy(exportFolder, options.destination);
   const std::vector<std::string> lines = ReportLines(report);
@@ -179,9 +180,8 @@ void Run(const Options& options) {
                {"bytesCopied", written.bytes}});
   } else {
     for (const std::string& line : lines) std::printf("%s\n", line.c_str());
-    std::printf("%s: %u resources, %llu files, %llu bytes%s\n",
-                PrintableText(exportFolder).c_str(), resources,
-                static_cast<unsigned long long>(written.files),
+    std::printf("%s: %u resources, %llu files, %llu bytes%s\n", PrintableText(exportFolder).c_str(),
+                resources, static_cast<unsigned long long>(written.files),
                 static_cast<unsigned long long>(written.bytes), ok ? "" : " (with problems)");
   }
   if (!ok) throw CommandFailure("the export reported problems");

@@ -19,8 +19,8 @@ using nlohmann::json;
 // "YYYY/MM/DD HH:MM:SS" in local time, as package dates are written.
 CalendarTime ParseDate(const std::string& text) {
   std::tm tm{};
-  int matched = std::sscanf(text.c_str(), "%d/%d/%d %d:%d:%d", &tm.tm_year, &tm.tm_mon,
-                            &tm.tm_mday, &tm.tm_hour, &tm.tm_min, &tm.tm_sec);
+  int matched = std::sscanf(text.c_str(), "%d/%d/%d %d:%d:%d", &tm.tm_year, &tm.tm_mon, &tm.tm_mday,
+                            &tm.tm_hour, &tm.tm_min, &tm.tm_sec);
   if (matched != 6) throw std::invalid_argument("a date is not YYYY/MM/DD HH:MM:SS: " + text);
   tm.tm_year -= 1900;
   tm.tm_mon -= 1;

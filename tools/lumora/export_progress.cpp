@@ -34,13 +34,12 @@ const char* ExportProgressBar::StepAt(uint32_t position) const {
 }
 
 void ExportProgressBar::Draw(uint32_t position) {
-  const uint64_t filled =
-      maximum_ == 0 ? kBarWidth : uint64_t{position} * kBarWidth / maximum_;
+  const uint64_t filled = maximum_ == 0 ? kBarWidth : uint64_t{position} * kBarWidth / maximum_;
   std::string bar(static_cast<size_t>(std::min<uint64_t>(filled, kBarWidth)), '#');
   bar.resize(kBarWidth, '-');
-  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(
-                           std::chrono::steady_clock::now() - start_)
-                           .count();
+  const auto seconds =
+      std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start_)
+          .count();
   const uint32_t done = position < resources_ ? position : resources_;
   std::fprintf(stderr, "\rexport [%s] %u/%u resources  %-9s %lld:%02lld ", bar.c_str(), done,
                resources_, StepAt(position), static_cast<long long>(seconds / 60),

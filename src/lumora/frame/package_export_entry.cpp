@@ -13,12 +13,9 @@ namespace lumora {
 namespace {
 
 ExportSource SourceOf(Discipline& discipline, uint32_t disciplineId) {
-  return {disciplineId,
-          static_cast<uint8_t>(discipline.info.Param & 0xFF),
-          discipline.localRoot,
-          &discipline.glossary,
-          &discipline.grammar,
-          &Library().classification};
+  return {disciplineId,         static_cast<uint8_t>(discipline.info.Param & 0xFF),
+          discipline.localRoot, &discipline.glossary,
+          &discipline.grammar,  &Library().classification};
 }
 
 // The export's own connection; null, with the message appended, when there is no memory.
@@ -56,10 +53,9 @@ bool ExportListed(uint32_t disciplineId, const DWordArray& packageIds,
   }
   std::unique_ptr<DatabaseConnection> database = NewExportConnection(report);
   if (database == nullptr) return false;
-  return ExportPackageContent(std::move(database),
-                              {packages, translations, resources, packageIds},
-                              SourceOf(*discipline, disciplineId), qualityFolders,
-                              destinationRoot, progress, report, true);
+  return ExportPackageContent(std::move(database), {packages, translations, resources, packageIds},
+                              SourceOf(*discipline, disciplineId), qualityFolders, destinationRoot,
+                              progress, report, true);
 }
 
 }  // namespace
@@ -70,8 +66,8 @@ bool lmExportPackage(uint32_t disciplineId, lumora::DWordArray packageIds,
                      const lumora::Progress* progress, std::string* report) {
   return lumora::Guarded(false, [&] {
     if (report == nullptr || destinationRoot == nullptr) return false;
-    return lumora::ExportListed(disciplineId, packageIds, qualityFolders, destinationRoot,
-                                progress, *report);
+    return lumora::ExportListed(disciplineId, packageIds, qualityFolders, destinationRoot, progress,
+                                *report);
   });
 }
 
@@ -79,9 +75,9 @@ bool lmExportCustomizedPackage(const lumora::PackageList* packages,
                                const lumora::TranslationList* translations,
                                const lumora::PackageResourceList* packageResources,
                                const lumora::DWordArray* packageIds, uint32_t disciplineId,
-                               const lumora::ByteArray* qualityFolders,
-                               const char* destinationRoot, const lumora::Progress* progress,
-                               std::string* report, uint8_t withDiagnosis) {
+                               const lumora::ByteArray* qualityFolders, const char* destinationRoot,
+                               const lumora::Progress* progress, std::string* report,
+                               uint8_t withDiagnosis) {
   return lumora::Guarded(false, [&] {
     if (report == nullptr || destinationRoot == nullptr) return false;
     lumora::Discipline* discipline = lumora::FindDiscipline(disciplineId);
@@ -90,8 +86,7 @@ bool lmExportCustomizedPackage(const lumora::PackageList* packages,
                                           static_cast<int>(disciplineId));
       return false;
     }
-    std::unique_ptr<lumora::DatabaseConnection> database =
-        lumora::NewExportConnection(*report);
+    std::unique_ptr<lumora::DatabaseConnection> database = lumora::NewExportConnection(*report);
     if (database == nullptr) return false;
     // A list the caller did not give is an empty one.
     const lumora::PackageList no_packages;
@@ -103,8 +98,7 @@ bool lmExportCustomizedPackage(const lumora::PackageList* packages,
         std::move(database),
         {packages ? *packages : no_packages, translations ? *translations : no_translations,
          packageResources ? *packageResources : no_resources, packageIds ? *packageIds : no_ids},
-        lumora::SourceOf(*discipline, disciplineId),
-        qualityFolders ? *qualityFolders : no_folders, destinationRoot, progress, *report,
-        withDiagnosis != 0);
+        lumora::SourceOf(*discipline, disciplineId), qualityFolders ? *qualityFolders : no_folders,
+        destinationRoot, progress, *report, withDiagnosis != 0);
   });
 }

@@ -28,7 +28,8 @@ ExportRows::ExportRows(std::unique_ptr<DatabaseConnection> database, std::string
 ExportRows::~ExportRows() { Finish(); }
 
 bool ExportRows::Open(const std::string& exportFolder) {
-  connectionString_ = "DRIVER={Microsoft Access Driver (*.mdb)};DBQ=" + exportFolder + "Content.mdb";
+  connectionString_ =
+      "DRIVER={Microsoft Access Driver (*.mdb)};DBQ=" + exportFolder + "Content.mdb";
   if (!database_->Open(connectionString_, "", "", 0)) {
     report_ += FormatReportLine("Can not open %s!\n", connectionString_.c_str());
     return false;
@@ -67,10 +68,10 @@ bool ExportRows::AddPackage(uint32_t id, const PackageRecord& package,
                             const TranslationList& translations) {
   const bool added =
       packageInsert_ != nullptr &&
-      database_->Execute(*packageInsert_, {ado::Variant::I4(static_cast<int32_t>(id)),
-                                           ado::Variant::Bstr(ExportDate(package.dateLastGeneration)),
-                                           ado::Variant::I4(package.version),
-                                           ado::Variant::I4(package.idString)});
+      database_->Execute(*packageInsert_,
+                         {ado::Variant::I4(static_cast<int32_t>(id)),
+                          ado::Variant::Bstr(ExportDate(package.dateLastGeneration)),
+                          ado::Variant::I4(package.version), ado::Variant::I4(package.idString)});
   if (!added) {
     report_ += FormatReportLine("Can not add Package [%ld], PackageId = %ld\n",
                                 static_cast<long>(package.idString), static_cast<long>(id));
@@ -81,11 +82,11 @@ bool ExportRows::AddPackage(uint32_t id, const PackageRecord& package,
     if (translation.idString != package.idString) continue;
     const bool written =
         translationInsert_ != nullptr &&
-        database_->Execute(*translationInsert_,
-                           {ado::Variant::I4(translation.idString),
-                            ado::Variant::UI1(translation.idLanguage),
-                            ado::Variant::I4(translation.idDataType),
-                            ado::Variant::Bstr(std::u16string(translation.text.text.view()))});
+        database_->Execute(
+            *translationInsert_,
+            {ado::Variant::I4(translation.idString), ado::Variant::UI1(translation.idLanguage),
+             ado::Variant::I4(translation.idDataType),
+             ado::Variant::Bstr(std::u16string(translation.text.text.view()))});
     if (!written) {
       report_ += FormatReportLine("Can not add Translation [%ld], String = %s\n",
                                   static_cast<long>(translation.idString),

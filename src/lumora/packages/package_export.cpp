@@ -122,8 +122,8 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
   if (withDiagnosis) {
     const std::set<uint32_t> lessons = LessonNumbers(copier.referencedIds());
     CLessonsData::GeneratePackage(source.languageParam, source.glossary, source.grammar,
-                                  source.localRoot, {lessons.begin(), lessons.end()},
-                                  exportFolder, &report);
+                                  source.localRoot, {lessons.begin(), lessons.end()}, exportFolder,
+                                  &report);
   }
   bar.SetPosition(n + 16);
   if (WriteStatus flushed = flush.Finish(); !flushed.ok()) report += flushed.ToString() + "\n";

@@ -74,9 +74,8 @@ WriteStatus Stage(const std::string& path, bool flush, WriteBody&& write_body) {
 }  // namespace
 
 WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush) {
-  return Stage(path, flush, [&](int fd) {
-    return BodyFailure{disk::WriteAll(fd, bytes.data(), bytes.size())};
-  });
+  return Stage(path, flush,
+               [&](int fd) { return BodyFailure{disk::WriteAll(fd, bytes.data(), bytes.size())}; });
 }
 
 namespace {

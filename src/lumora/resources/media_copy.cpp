@@ -1,5 +1,5 @@
-#include <lumora/resources/content_request.h>
 #include <lumora/platform/atomic_write.h>
+#include <lumora/resources/content_request.h>
 #include <lumora/resources/media_copy.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>

@@ -14,8 +14,7 @@ constexpr const char* kCommandSource = "ADODB.Command";
 }  // namespace
 
 Command::Command(const Connection& connection, std::string_view sql)
-    : db_(connection.handle()),
-      statement_(std::make_unique<Statement>(db_, sql, kCommandSource)) {}
+    : db_(connection.handle()), statement_(std::make_unique<Statement>(db_, sql, kCommandSource)) {}
 
 void Command::Bind(int position, const Variant& value) {
   sqlite3_stmt* stmt = statement_->get();
@@ -32,8 +31,7 @@ void Command::Bind(int position, const Variant& value) {
     case VarType::kBstr: {
       const std::u16string text = value.ToBstr();
       rc = sqlite3_bind_text16(stmt, position, text.data(),
-                               static_cast<int>(text.size() * sizeof(char16_t)),
-                               SQLITE_TRANSIENT);
+                               static_cast<int>(text.size() * sizeof(char16_t)), SQLITE_TRANSIENT);
       break;
     }
   }

@@ -77,13 +77,9 @@ void Connection::Execute(std::u16string_view sql, int32_t options) {
   }
 }
 
-void Connection::BeginTrans() {
-  Statement(handle(), "BEGIN", kConnectionSource).Step();
-}
+void Connection::BeginTrans() { Statement(handle(), "BEGIN", kConnectionSource).Step(); }
 
-void Connection::CommitTrans() {
-  Statement(handle(), "COMMIT", kConnectionSource).Step();
-}
+void Connection::CommitTrans() { Statement(handle(), "COMMIT", kConnectionSource).Step(); }
 
 std::unique_ptr<Recordset> Connection::OpenSchemaTables() {
   auto tables = std::make_unique<Recordset>();
