@@ -141,7 +141,7 @@ class SampleContent : public LibraryTest {
   void LoadFromOneCourse(uint32_t discipline, uint32_t n, Resource& loaded) {
     int found = 0;
     const ContentRequest request = UrlRequest(discipline);
-    for (uint32_t course : {1u, 2u}) {
+    for (uint32_t course : {0u, 1u, 2u}) {
       Resource probe;
       if (!lmGetResource(&request, MakeResourceId(course, n), &probe, false)) continue;
       ++found;
@@ -171,12 +171,13 @@ TEST_F(SampleContent, EveryDisciplineIndexesExercisesElementsAndDescriptions) {
     const ResourceIndex* index = lmGetResourceInfos(&request);
     ASSERT_NE(index, nullptr);
     const DWordArray& types = index->types();
-    // The first discipline also holds every other type; the index files load in their order.
+    // The first discipline also holds every other type, the others only those of their
+    // course-0 package besides; the index files load in their order.
     const std::vector<uint32_t> expected =
         d == 1 ? std::vector<uint32_t>(kIndexLoadOrder.begin(), kIndexLoadOrder.end())
-               : std::vector<uint32_t>{40, 2000, 1005};
+               : std::vector<uint32_t>{5, 8, 10, 28, 40, 1003, 2000, 1005};
     EXPECT_EQ(std::vector<uint32_t>(types.begin(), types.end()), expected);
-    EXPECT_EQ(ListedNumbers(*index, 40).size(), 4u);
+    EXPECT_EQ(ListedNumbers(*index, 40).size(), 5u) << "four of the unit and the package's";
     EXPECT_EQ(ListedNumbers(*index, kContentElementType).size(), 8u);
 
     const auto* descriptions = dynamic_cast<const Type2000Index*>(index->FindType(2000));
@@ -267,21 +268,23 @@ TEST_F(SampleContent, TheArhTwinIsWhatLoads) {
   EXPECT_EQ(loaded.items.size(), stored.items.size() + 1);
 }
 
-// Types 40 and 1005 are checked above and the descriptions have no resource files.
+// Types 40 and 1005 are checked above; the descriptions are indexed from their own entries,
+// not from files.
 bool IsOtherType(uint32_t type) { return type != 40 && type != 1005 && type != 2000; }
 
-TEST_F(SampleContent, EveryOtherTypeIndexesExactlyTheResourceFilesOfDisciplineOne) {
-  const ContentRequest request = UrlRequest(1);
-  const ResourceIndex* index = lmGetResourceInfos(&request);
-  ASSERT_NE(index, nullptr);
-  for (uint32_t type : kExerciseTypes) {
-    if (!IsOtherType(type)) continue;
-    SCOPED_TRACE(type);
-    const TypeIndex* loaded = index->FindType(type);
-    ASSERT_NE(loaded, nullptr);
-    const std::multiset<uint32_t> listed = IndexedNumbers(*loaded);
-    EXPECT_GE(listed.size(), 2u);
-    EXPECT_EQ(listed, NumbersOnDisk(root() + "D001/", type));
+// The first discipline indexes every type (checked above), the others their package's.
+TEST_F(SampleContent, EveryOtherTypeIndexesExactlyTheResourceFilesOnDisk) {
+  for (uint32_t d : kOpenDisciplines) {
+    const ContentRequest request = UrlRequest(d);
+    const ResourceIndex* index = lmGetResourceInfos(&request);
+    ASSERT_NE(index, nullptr);
+    for (uint32_t type : index->types()) {
+      if (!IsOtherType(type)) continue;
+      SCOPED_TRACE(::testing::Message() << "discipline " << d << ", type " << type);
+      const std::multiset<uint32_t> listed = IndexedNumbers(*index->FindType(type));
+      EXPECT_GE(listed.size(), d == 1 ? 2u : 1u);
+      EXPECT_EQ(listed, NumbersOnDisk(root() + "D00" + std::to_string(d) + "/", type));
+    }
   }
 }
 

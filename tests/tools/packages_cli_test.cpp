@@ -1,4 +1,4 @@
-// `lumora packages` over the sample content, whose disciplines each hold three packages with
+// `lumora packages` over the sample content, whose disciplines each hold four packages with
 // titles in English, the course language and Russian.
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -22,7 +22,7 @@ TEST_F(PackagesCli, PackagesWithTheirTitlesInEveryLanguage) {
   const CliResult result = Packages("-d 2 --json");
   ASSERT_EQ(result.exit_code, 0) << result.out;
   const json packages = json::parse(result.out);
-  ASSERT_EQ(packages.size(), 3u);
+  ASSERT_EQ(packages.size(), 4u);
   EXPECT_EQ(packages[0], json::parse(R"({"id":1,"version":3,"date":"2024/01/15 09:30:00",
       "idString":100,"titles":[
         {"language":14,"code":"ANG","codePage":1252,"text":"Beginner's course"},

@@ -13,6 +13,7 @@
 #include "sample/sample_ini.h"
 #include "sample/sample_layout.h"
 #include "sample/sample_media.h"
+#include "sample/sample_package.h"
 #include "sample/sample_resources.h"
 
 namespace lumora::sample {
@@ -23,19 +24,21 @@ constexpr int kIndexedGlossaryDiscipline = 1;
 
 // Every discipline keeps its files in its own folder, which is both its Local root and its data
 // folder. One that is only listed still needs its description index: listing reads it. One
-// discipline also shows every other exercise type, a few resources each whatever the scale.
+// discipline also shows every other exercise type, a few resources each whatever the scale;
+// the others index only the types their resources and their package's have.
 bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int scale,
                      std::string* error) {
   if (!WriteDescriptionIndex(folder, error)) return false;
   if (d.type != 0) return true;
   if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
+      !WritePackageResources(folder, error) ||
       !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error) ||
       !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), error) ||
       !WriteSampleGlossary(folder, static_cast<uint8_t>(d.param),
                            d.id == kIndexedGlossaryDiscipline, error)) {
     return false;
   }
-  if (d.id != kEveryTypeDiscipline) return RebuildResourceIndexes(folder, folder, error);
+  if (d.id != kEveryTypeDiscipline) return RebuildPackageIndexes(folder, folder, error);
   return WriteEveryExerciseType(folder, error) && RebuildEveryTypeIndex(folder, folder, error);
 }
 

@@ -11,6 +11,7 @@
 
 #include "sample/sample_files.h"
 #include "sample/sample_layout.h"
+#include "sample/sample_package.h"
 
 namespace lumora::sample {
 namespace {
@@ -29,11 +30,13 @@ struct SamplePackage {
   int32_t version;
   const char16_t* date;
   int32_t idString;
-  std::array<SampleResource, 3> resources;  // type 0 ends a shorter list
+  std::array<SampleResource, 8> resources;  // type 0 ends a shorter list
 };
 
+constexpr uint32_t kPackageId = MakeResourceId(kPackageCourse, kPackageNumber);
+
 // Exercises 1 and 2 of course 1 and 3 of course 2, elements 1 and 2 of course 1 and 5 of
-// course 2: all written at every scale.
+// course 2: all written at every scale. The last package is the course-0 one.
 constexpr SamplePackage kPackages[] = {
     {1,
      3,
@@ -54,20 +57,34 @@ constexpr SamplePackage kPackages[] = {
      {{{kExerciseFolder, MakeResourceId(1, 1)},
        {kExerciseFolder, MakeResourceId(2, 3)},
        {kElementFolder, MakeResourceId(1, 2)}}}},
+    // The course-0 package: its exercise with the three elements it names, a dictation,
+    // phonetics, a listening exercise and questions about the lesson videos.
+    {4,
+     1,
+     u"2024/04/02 10:00:00",
+     103,
+     {{{kExerciseFolder, MakeResourceId(kPackageCourse, kPackageExerciseNumber)},
+       {kElementFolder, MakeResourceId(1, 1)},
+       {kElementFolder, MakeResourceId(1, 2)},
+       {kElementFolder, MakeResourceId(1, 3)},
+       {5, kPackageId},
+       {8, kPackageId},
+       {10, kPackageId},
+       {28, kPackageId}}}},
 };
 
-// Titles of the three packages, by language.
+// Titles of the packages, by language.
 struct Titles {
   uint8_t language;
-  std::array<const char16_t*, 3> texts;
+  std::array<const char16_t*, std::size(kPackages)> texts;
 };
 
 constexpr Titles kTitles[] = {
-    {kEnglish, {u"Beginner's course", u"Travel", u"Review"}},
-    {17, {u"Cours pour débutants", u"Voyage", u"Révision"}},
-    {18, {u"Anfängerkurs", u"Reisen", u"Wiederholung"}},
-    {33, {u"Curso para principiantes", u"Viaje", u"Repaso"}},
-    {kRussian, {u"Курс для начинающих", u"Путешествие", u"Повторение"}},
+    {kEnglish, {u"Beginner's course", u"Travel", u"Review", u"At the station"}},
+    {17, {u"Cours pour débutants", u"Voyage", u"Révision", u"À la gare"}},
+    {18, {u"Anfängerkurs", u"Reisen", u"Wiederholung", u"Am Bahnhof"}},
+    {33, {u"Curso para principiantes", u"Viaje", u"Repaso", u"En la estación"}},
+    {kRussian, {u"Курс для начинающих", u"Путешествие", u"Повторение", u"На вокзале"}},
 };
 
 // Apostrophes doubled, so that a title with one stays inside its quotes.

@@ -1,6 +1,7 @@
 // The package database of an opened sample discipline: three packages whose resource rows name
-// type-40 exercises and type-1005 elements the sample writes, with titles in English, in the
-// course language and in Russian (one title has an apostrophe).
+// type-40 exercises and type-1005 elements the sample writes and a fourth of several exercise
+// types in course 0 (sample_package.h), with titles in English, in the course language and in
+// Russian (one title has an apostrophe).
 #pragma once
 
 #include <cstdint>

@@ -13,6 +13,7 @@
 #include "sample/sample_dates.h"
 #include "sample/sample_files.h"
 #include "sample/sample_glossary_words.h"
+#include "sample/sample_package.h"
 
 namespace lumora::sample {
 namespace {
@@ -25,11 +26,10 @@ constexpr uint8_t kHeadword = 1;
 constexpr uint8_t kSubEntry = 2;
 constexpr uint8_t kClassifiedWord = 2;  // attrC of the words whose classes are listed
 constexpr uint32_t kSoundQuality = 2;
-// Lessons name their words by links; their numbers lie above every word number.
-constexpr uint32_t kLessons[] = {70001, 70002};
 constexpr size_t kWordsPerLesson = 40;
 constexpr uint16_t kLessonLink = 1;
 constexpr uint16_t kOppositeLink = 3;
+constexpr uint8_t kNamesWord = 1;  // attrC of a link whose attrB is the word it names
 constexpr uint32_t kAdjective = 30000;
 
 enum CommentType : uint8_t { kNote = 1, kGrammarNote = 2, kRegister = 3, kSeeAlso = 7 };
@@ -69,11 +69,13 @@ GloFNRecord HeadwordOf(const GlossaryConcept& c, size_t i) {
 
 // Most words have a sound; every eighth one is announced but not recorded yet and every
 // eighth one has none at all.
+bool Unrecorded(size_t i) { return i % 8 == 7; }
+
 void AddSound(CGloV6& g, const std::u16string& writing, size_t i) {
   if (i % 8 == 3) return;
   GloSoundRecord sound;
   sound.fnId = WordNumber(i);
-  sound.status = i % 8 == 7 ? 0 : GloSoundRecord::kPresentStatus;
+  sound.status = Unrecorded(i) ? 0 : GloSoundRecord::kPresentStatus;
   sound.attrA = static_cast<uint16_t>(i);
   sound.text1 = writing;
   sound.qualitiesA.push_back(static_cast<uint8_t>(kSoundQuality));
@@ -123,13 +125,17 @@ void AddWords(CGloV6& g, uint8_t language) {
   }
 }
 
-// Each lesson names its words through the attrB field of its links; adjectives listed next to
-// each other in pairs are opposites and link both ways.
+// Each lesson names its words through the attrB field of its links, leaving out the words
+// whose sound is still to be recorded; the lessons' numbers lie above every word number and
+// above the general links' 1000 to 10000. Adjectives listed next to each other in pairs are
+// opposites and link both ways.
 void AddLinks(CGloV6& g) {
-  for (size_t lesson = 0; lesson < std::size(kLessons); ++lesson) {
+  for (size_t lesson = 0; lesson < std::size(kGlossaryLessons); ++lesson) {
     for (size_t k = 0; k < kWordsPerLesson; ++k) {
-      const uint16_t word = WordNumber(lesson * kWordsPerLesson * 2 + k);
-      g.links.Insert({kLessons[lesson], word, kLessonLink, 0, word, 0});
+      const size_t row = lesson * kWordsPerLesson * 2 + k;
+      if (Unrecorded(row)) continue;
+      const uint16_t word = WordNumber(row);
+      g.links.Insert({kGlossaryLessons[lesson], word, kLessonLink, 0, word, kNamesWord});
     }
   }
   const std::span<const GlossaryConcept> concepts = GlossaryConcepts();
@@ -140,13 +146,30 @@ void AddLinks(CGloV6& g) {
   }
 }
 
+bool WriteSoundFile(const CGloV6& g, uint32_t quality, uint16_t word, std::string* error) {
+  return WriteBytesFile(QualityFilePath(g.folder, quality, word),
+                        "sample sound " + std::to_string(word) + "\n", error);
+}
+
 // The sound of every recorded word, in the quality folder the index asks for.
 bool WriteSoundFiles(const CGloV6& g, std::string* error) {
   for (const GloSoundRecord& sound : g.sounds) {
     if (sound.status != GloSoundRecord::kPresentStatus) continue;
-    const std::string path = QualityFilePath(g.folder, kSoundQuality, sound.fnId);
-    if (!WriteBytesFile(path, "sample sound " + std::to_string(sound.fnId) + "\n", error)) {
-      return false;
+    if (!WriteSoundFile(g, kSoundQuality, sound.fnId, error)) return false;
+  }
+  return true;
+}
+
+// The words of the lessons are delivered in every quality folder, so that the export of a
+// package finds the sounds of its lessons' words whichever folders it takes.
+bool WriteLessonSounds(const CGloV6& g, std::string* error) {
+  for (uint32_t lesson : kGlossaryLessons) {
+    const auto [first, last] = g.links.Range({lesson, 0u}, {lesson + 1, 0u});
+    for (auto link = first; link != last; ++link) {
+      if (g.sounds.Find(link->attrB) == nullptr) continue;
+      for (uint32_t quality : {1u, 2u, 3u}) {
+        if (!WriteSoundFile(g, quality, link->attrB, error)) return false;
+      }
     }
   }
   return true;
@@ -170,7 +193,9 @@ bool WriteSampleGlossary(const std::string& root, uint8_t language, bool withInd
     *error = "cannot create " + glossary.folder;
     return false;
   }
-  if (withIndex && !WriteSoundFiles(glossary, error)) return false;
+  if (!WriteLessonSounds(glossary, error) || (withIndex && !WriteSoundFiles(glossary, error))) {
+    return false;
+  }
   const std::vector<uint32_t> qualities = {kSoundQuality};
   if (!glossary.save(withIndex, withIndex ? qualities : std::vector<uint32_t>{})) {
     *error = "cannot write the glossary in " + glossary.folder;

@@ -9,6 +9,7 @@
 
 #include "sample/sample_dates.h"
 #include "sample/sample_files.h"
+#include "sample/sample_package.h"
 
 namespace lumora::sample {
 namespace {
@@ -81,10 +82,11 @@ void AddSubpoints(CGramV6& g, const CourseTexts& texts) {
     g.keywords.Insert({s.id * 100 + 1, texts.keywords[i]});
     g.parts.Insert({s.id, 1, 0, 1, s.id * 10, 0, 0, 0});
   }
-  // Lesson 1 teaches the articles and regular verbs, lesson 2 the rest.
-  for (uint32_t subpoint : {1001u, 1002u, 2001u})
-    g.links.Insert({1, subpoint, subpoint * 100, 1, 0});
-  for (uint32_t subpoint : {2002u, 3001u}) g.links.Insert({2, subpoint, subpoint * 100, 1, 0});
+  // The first lesson teaches the articles and the verbs, the second the questions.
+  for (uint32_t subpoint : {1001u, 1002u, 2001u, 2002u}) {
+    g.links.Insert({kGrammarLessons[0], subpoint, subpoint * 100, 1, 0});
+  }
+  g.links.Insert({kGrammarLessons[1], 3001u, 3001u * 100, 1, 0});
 }
 
 void AddBubbles(CGramV6& g, const CourseTexts& texts) {

@@ -1,6 +1,6 @@
 // The grammar of an opened sample discipline: three points with titles in the course language
 // and in English, pictures, subpoints with levels, categories, titles and keywords, parts,
-// links from two lessons and the bubbles of the grammar screens.
+// links from two lessons (sample_package.h) and the bubbles of the grammar screens.
 #pragma once
 
 #include <cstdint>

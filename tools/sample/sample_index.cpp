@@ -68,6 +68,15 @@ bool RebuildResourceIndexes(const std::string& root, const std::string& data_fol
          RebuildIndex(Type40Resource::kType, root, data_folder, error);
 }
 
+bool RebuildPackageIndexes(const std::string& root, const std::string& data_folder,
+                           std::string* error) {
+  if (!RebuildResourceIndexes(root, data_folder, error)) return false;
+  for (uint32_t type : {5u, 8u, 10u, 28u, 1003u}) {
+    if (!RebuildIndex(type, root, data_folder, error)) return false;
+  }
+  return true;
+}
+
 bool RebuildEveryTypeIndex(const std::string& root, const std::string& data_folder,
                            std::string* error) {
   if (!RebuildResourceIndexes(root, data_folder, error)) return false;

@@ -14,6 +14,11 @@ bool WriteDescriptionIndex(const std::string& data_folder, std::string* error);
 bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
                             std::string* error);
 
+// Rebuilds the indexes of types 1005 and 40 and of the other types the package's resources
+// have: 5, 8, 10, 28 and 1003.
+bool RebuildPackageIndexes(const std::string& root, const std::string& data_folder,
+                           std::string* error);
+
 // Rebuilds the index of every exercise type but the descriptions, which are written from their
 // entries instead.
 bool RebuildEveryTypeIndex(const std::string& root, const std::string& data_folder,

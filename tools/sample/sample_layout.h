@@ -44,7 +44,7 @@ inline uint32_t ElementNumber(uint32_t course, int unit, int slot) {
                                1);
 }
 
-inline uint32_t ExerciseNumber(uint32_t course, int unit, int slot) {
+constexpr uint32_t ExerciseNumber(uint32_t course, int unit, int slot) {
   return static_cast<uint32_t>((unit * 2 + static_cast<int>(course) - 1) * kExercisesPerUnit +
                                slot + 1);
 }

@@ -1,5 +1,7 @@
 // What the writers of the other exercise types share: they all write a few resources of their
 // type in course 1 of one discipline, numbered from 1, with media in the type's own folder.
+// The package of every discipline adds one resource of some of these types in course 0, whose
+// media lie in course 0 too.
 #pragma once
 
 #include <lumora/resources/media_ref.h>
@@ -18,16 +20,17 @@ inline constexpr uint32_t kTypeCourse = 1;
 
 inline uint32_t TypeResourceId(uint32_t number) { return MakeResourceId(kTypeCourse, number); }
 
-// A medium in the folder of `type`, named after `number`.
-inline MediaRef TypeMedium(uint32_t kind, uint32_t type, uint32_t number) {
-  return MediaRef(kind, type, TypeResourceId(number));
+// A medium in the folder of `type` of `course`, named after `number`.
+inline MediaRef TypeMedium(uint32_t kind, uint32_t type, uint32_t number,
+                           uint32_t course = kTypeCourse) {
+  return MediaRef(kind, type, MakeResourceId(course, number));
 }
 
 // The file of a medium of TypeMedium: `letter` is its stem's ('s' sound, 'p' picture, 'v' video).
 inline bool WriteTypeMedium(const std::string& root, uint32_t type, char letter, uint32_t number,
                             const char* extension, std::initializer_list<int> qualities,
-                            std::string* error) {
-  return WriteMedium(root, {kTypeCourse, type, NumberedName(letter, number), extension, qualities},
+                            std::string* error, uint32_t course = kTypeCourse) {
+  return WriteMedium(root, {course, type, NumberedName(letter, number), extension, qualities},
                      error);
 }
 
