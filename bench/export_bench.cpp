@@ -81,12 +81,15 @@ struct CopiedFile {
 class ExportSample {
  public:
   ExportSample() {
-    char pattern[] = "/tmp/lumora-export-bench-XXXXXX";
-    if (mkdtemp(pattern) == nullptr) {
+    // LUMORA_BENCH_DIR chooses the file system (default /tmp): on a disk that has just freed
+    // many files, creating files there costs more the more were freed, whoever creates them.
+    const char* dir = std::getenv("LUMORA_BENCH_DIR");
+    std::string pattern = std::string(dir ? dir : "/tmp") + "/lumora-export-bench-XXXXXX";
+    if (mkdtemp(pattern.data()) == nullptr) {
       error_ = "no scratch folder";
       return;
     }
-    scratch_ = std::string(pattern) + "/";
+    scratch_ = pattern + "/";
     source_ = scratch_ + "content/";
     const char* scale = std::getenv("LUMORA_BENCH_SCALE");
     lumora::sample::SampleOptions options;

@@ -165,12 +165,14 @@ TEST_F(PackageExport, ListsThatCannotBeReadStopTheExportBeforeItStarts) {
   DWordArray ids;
   ids.Add(1);
   EXPECT_FALSE(lmExportPackage(7, ids, {}, destination().c_str(), nullptr, &report));
-  EXPECT_EQ(report, "Can not get Discipline n\xB0"
-                    "7\n");
+  EXPECT_EQ(report,
+            "Can not get Discipline n\xB0"
+            "7\n");
   report.clear();
   EXPECT_FALSE(lmExportPackage(1, ids, {}, destination().c_str(), nullptr, &report));
-  EXPECT_EQ(report, "Can not get packages for discipline n\xB0"
-                    "1\n");
+  EXPECT_EQ(report,
+            "Can not get packages for discipline n\xB0"
+            "1\n");
   EXPECT_FALSE(lmExportPackage(1, ids, {}, destination().c_str(), nullptr, nullptr));
 }
 

@@ -33,7 +33,7 @@ bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int s
   if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
       !WritePackageResources(folder, error) ||
       !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error) ||
-      !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), error) ||
+      !WriteSampleDatabase(folder, static_cast<uint8_t>(d.param), scale, error) ||
       !WriteSampleGlossary(folder, static_cast<uint8_t>(d.param),
                            d.id == kIndexedGlossaryDiscipline, error)) {
     return false;

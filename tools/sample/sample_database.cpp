@@ -131,7 +131,30 @@ bool WriteTitles(Writer& w, uint8_t language) {
   return true;
 }
 
-bool WriteTables(Writer& w, uint8_t language) {
+// Beyond the first unit, every unit of content joins the review package, so that a larger
+// sample has a package whose export grows with it.
+bool WriteReviewUnits(Writer& w, int scale) {
+  constexpr uint32_t kReview = 3;
+  for (int unit = 1; unit < scale; ++unit) {
+    for (uint32_t course : kCourses) {
+      for (int slot = 0; slot < kExercisesPerUnit; ++slot) {
+        if (!w.Run(u"INSERT INTO t_PackagesResources VALUES (%d, %u, %u)", kReview, kExerciseFolder,
+                   MakeResourceId(course, ExerciseNumber(course, unit, slot)))) {
+          return false;
+        }
+      }
+      for (int slot = 0; slot < kElementsPerUnit; ++slot) {
+        if (!w.Run(u"INSERT INTO t_PackagesResources VALUES (%d, %u, %u)", kReview, kElementFolder,
+                   MakeResourceId(course, ElementNumber(course, unit, slot)))) {
+          return false;
+        }
+      }
+    }
+  }
+  return true;
+}
+
+bool WriteTables(Writer& w, uint8_t language, int scale) {
   for (const char16_t* create : kCreatePackageTables) {
     if (!w.Run(create)) return false;
   }
@@ -147,12 +170,13 @@ bool WriteTables(Writer& w, uint8_t language) {
       }
     }
   }
-  return WriteTitles(w, language);
+  return WriteReviewUnits(w, scale) && WriteTitles(w, language);
 }
 
 }  // namespace
 
-bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, std::string* error) {
+bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, int scale,
+                         std::string* error) {
   // Opening never creates a database: an empty file is one with no tables yet.
   const std::string path = data_folder + "Content.mdb";
   if (!WriteBytesFile(path, "", error)) return false;
@@ -163,7 +187,8 @@ bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, std::
     *error = "cannot open " + path + ": " + db.errorText;
   } else {
     Writer writer(db);
-    ok = WriteTables(writer, language);
+    // One transaction: the rows of a large sample reach the disk together.
+    ok = writer.Run(u"BEGIN") && WriteTables(writer, language, scale) && writer.Run(u"COMMIT");
     if (!ok) *error = "cannot write " + path + ": " + writer.failed();
   }
   db.Close();

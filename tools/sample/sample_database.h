@@ -11,7 +11,9 @@ namespace lumora::sample {
 
 // Writes `data_folder` + "Content.mdb" afresh through the library's database connection: the
 // identifier table, then the three package tables and their rows. `language` is the course
-// language. False with a one-line reason when a statement fails.
-bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, std::string* error);
+// language; beyond scale 1 the review package also lists every resource of the units past the
+// first. False with a one-line reason when a statement fails.
+bool WriteSampleDatabase(const std::string& data_folder, uint8_t language, int scale,
+                         std::string* error);
 
 }  // namespace lumora::sample

@@ -26,13 +26,14 @@ template <typename Record>
 void StageSetTable(FolderCommit& commit, std::u16string_view name, uint32_t version,
                    SetTable<Record>& table) {
   const std::string file = SetFileName(name);
+  const uint64_t size = commit.CurrentSize(file);
   commit.AddProduced(
       file,
-      [&table, version, size = commit.CurrentSize(file)] {
+      [&table, version, size] {
         return SetFileBytes(
             version, [&](Archive& ar) { table.WriteRecords(ar, version); }, size);
       },
-      true);
+      true, size);
 }
 
 // Commits and reduces the outcome to the bool that the table operations answer; the reason of

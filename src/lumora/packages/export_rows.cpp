@@ -41,13 +41,14 @@ bool ExportRows::CreateTables() {
   static constexpr const char* kFailures[] = {"Can not create t_Packages table for %s!\n",
                                               "Can not create t_Translations table for %s!\n",
                                               "Can not create t_PackagesResources table for %s!\n"};
+  // The tables belong to the transaction too: a new database is flushed to disk once.
+  inTransaction_ = database_->BeginTransaction();
   for (size_t i = 0; i < std::size(kCreatePackageTables); ++i) {
     if (!database_->Execute(WideText(kCreatePackageTables[i]))) {
       report_ += FormatReportLine(kFailures[i], connectionString_.c_str());
       return false;
     }
   }
-  inTransaction_ = database_->BeginTransaction();
   packageInsert_ = database_->Prepare("INSERT INTO t_Packages VALUES (?, ?, ?, ?)");
   translationInsert_ = database_->Prepare("INSERT INTO t_Translations VALUES (?, ?, ?, ?)");
   resourceInsert_ = database_->Prepare("INSERT INTO t_PackagesResources VALUES (?, ?, ?)");

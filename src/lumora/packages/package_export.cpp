@@ -5,6 +5,7 @@
 #include <lumora/packages/partial_lexicon.h>
 #include <lumora/platform/atomic_write.h>
 #include <lumora/resources/export_indexes.h>
+#include <lumora/resources/media_copy.h>
 #include <lumora/resources/publish.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/support/paths.h>
@@ -83,6 +84,7 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
     return false;
   }
   DeferredFlush flush(root);
+  const MediaCopiedOnce media_once;
   ExportRows rows(std::move(database), report);
   if (!rows.Open(exportFolder) || !rows.CreateTables() || !rows.AddPackages(lists)) return false;
 

@@ -130,6 +130,8 @@ WriteStatus CopyFileAtomically(const std::string& source, const std::string& des
   return status;
 }
 
+bool FlushesDeferred() { return flush_deferred; }
+
 DeferredFlush::DeferredFlush(std::string folder)
     : folder_(std::move(folder)), previous_(flush_deferred) {
   flush_deferred = true;

@@ -37,6 +37,10 @@ WriteStatus CopyFileAtomically(const std::string& source, const std::string& des
 // thread, WriteFileAtomically still stages and renames each file but leaves flushing to
 // Finish, which flushes the file system that holds `folder` once. Each file stays whole or
 // absent whatever happens; the tree as a whole is durable once Finish succeeds.
+// Whether a DeferredFlush lives on the calling thread: writers of several files leave their
+// flushes to it too.
+bool FlushesDeferred();
+
 class DeferredFlush {
  public:
   explicit DeferredFlush(std::string folder);

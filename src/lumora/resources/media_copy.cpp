@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <unordered_set>
 
 namespace lumora {
 namespace {
@@ -22,11 +23,22 @@ std::string LocalPathOf(const std::string& unc_path, const std::string& root) {
   return root + relative;
 }
 
+// The destinations copied while a MediaCopiedOnce lives on this thread; null otherwise.
+thread_local std::unordered_set<std::string>* copied_once = nullptr;
+
 }  // namespace
 
+MediaCopiedOnce::MediaCopiedOnce() : previous_(copied_once) { copied_once = &copied_; }
+
+MediaCopiedOnce::~MediaCopiedOnce() { copied_once = previous_; }
+
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name) {
+  const std::string destination = folder + name;
+  if (copied_once != nullptr && copied_once->count(destination) != 0) return true;
   if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
-  return CopyFileAtomically(from, folder + name).ok();
+  if (!CopyFileAtomically(from, destination).ok()) return false;
+  if (copied_once != nullptr) copied_once->insert(destination);
+  return true;
 }
 
 MediaCopier::MediaCopier(const std::string& destination_root, uint32_t destination_id,

@@ -7,12 +7,28 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 
 namespace lumora {
 
 // Copies the file `from` to folder + name, replacing a file already there, after creating
 // the folder and any missing parents. False when a folder cannot be created or the copy fails.
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name);
+
+// While one lives on the calling thread, CopyFileInto copies to each destination once: the
+// resources of an export share media, and a medium already copied by one of them is there
+// for the others.
+class MediaCopiedOnce {
+ public:
+  MediaCopiedOnce();
+  ~MediaCopiedOnce();
+  MediaCopiedOnce(const MediaCopiedOnce&) = delete;
+  MediaCopiedOnce& operator=(const MediaCopiedOnce&) = delete;
+
+ private:
+  std::unordered_set<std::string> copied_;
+  std::unordered_set<std::string>* previous_;
+};
 
 class MediaCopier {
  public:

@@ -50,12 +50,13 @@ void FolderCommit::Add(const std::string& name, std::string bytes, bool checksum
 }
 
 void FolderCommit::AddProduced(const std::string& name, std::function<std::string()> produce,
-                               bool checksummed) {
+                               bool checksummed, uint64_t expected_size) {
+  Staged file{name, std::move(produce), checksummed, expected_size};
   if (Staged* same = FindNamed(files_, name, [](const Staged& s) { return s.name; })) {
-    *same = {name, std::move(produce), checksummed};
+    *same = std::move(file);
     return;
   }
-  files_.push_back({name, std::move(produce), checksummed});
+  files_.push_back(std::move(file));
 }
 
 uint64_t FolderCommit::CurrentSize(const std::string& name) const {
@@ -125,10 +126,11 @@ WriteStatus FolderCommit::CheckTargets(std::vector<std::unique_ptr<File>>& held)
 WriteStatus FolderCommit::StageFiles(std::vector<std::string>& staged, ListValues& list) const {
   if (files_.empty()) return {};
   // Only the making of bytes runs on the other thread; every disk step stays on this one, in
-  // file order.
-  const auto policy = files_.size() > 1 ? std::launch::async : std::launch::deferred;
+  // file order. A small file is made here: a thread would cost more than it saves.
+  constexpr uint64_t kWorthAThread = 256 * 1024;
   auto make = [&](size_t i) {
-    return std::async(policy, [&file = files_[i]] {
+    const bool large = files_.size() > 1 && files_[i].expectedSize >= kWorthAThread;
+    return std::async(large ? std::launch::async : std::launch::deferred, [&file = files_[i]] {
       Made made{file.produce(), 0};
       if (file.checksummed) made.crc = Crc32(made.bytes.data(), made.bytes.size());
       return made;
@@ -165,6 +167,7 @@ WriteStatus FolderCommit::StageList(std::vector<std::string>& staged,
 }
 
 WriteStatus FolderCommit::FlushStaged(const std::vector<std::string>& staged) const {
+  if (FlushesDeferred()) return {};
   std::vector<std::string> paths;
   for (const std::string& name : staged) paths.push_back(StagingPath(folder_ + name));
   std::string failed;
@@ -179,9 +182,10 @@ WriteStatus FolderCommit::WriteJournal(const std::vector<std::string>& staged) c
   for (const std::string& name : staged) text += name + "\n";
   text += "end\n";
   const std::string journal = folder_ + kCommitJournalName;
-  if (WriteStatus written = StageFile(journal, text); !written.ok()) return written;
+  const bool flush = !FlushesDeferred();
+  if (WriteStatus written = StageFile(journal, text, flush); !written.ok()) return written;
   int error = disk::Rename(StagingPath(journal), journal);
-  if (error == 0 && (error = disk::SyncFolder(folder_)) != 0) disk::Remove(journal);
+  if (error == 0 && flush && (error = disk::SyncFolder(folder_)) != 0) disk::Remove(journal);
   if (error == 0) return {};
   disk::Remove(StagingPath(journal));
   return WriteStatus::Failure(journal, "cannot record the save", error);
@@ -200,7 +204,7 @@ WriteStatus FolderCommit::Publish(const std::vector<std::string>& staged) const 
           error);
     }
   }
-  if (int error = disk::SyncFolder(folder_)) {
+  if (int error = FlushesDeferred() ? 0 : disk::SyncFolder(folder_)) {
     return WriteStatus::Failure(folder_, "cannot flush the folder to disk", error);
   }
   // Left behind, the journal only names renames already done; the next open removes it.

@@ -13,6 +13,8 @@
 //     every old file as it was; after it, the save is decided.
 //  5. Rename every staged file over its target, CRCFile.ini last, flush the folder, and remove
 //     .lumora-commit.
+// While a DeferredFlush lives on the thread (a whole new tree being written), the flushes are
+// left to it: the steps keep their order, and the tree is durable once it is flushed.
 // Whoever opens F next (a reader through FolderReadScope, or the next save) first runs
 // RecoverFolder: a .lumora-commit left by a crash has its remaining renames done, then every
 // staged file still in F is removed. A save of a single file without checksum needs no
@@ -43,10 +45,12 @@ class FolderCommit {
   // and date in the folder's CRCFile.ini. A name added twice keeps its last bytes.
   void Add(const std::string& name, std::string bytes, bool checksummed);
   // The same with bytes that `produce` makes while the save runs, after every target has been
-  // checked. Each file's bytes are made on another thread while the file before it is written,
-  // so that making a large table and writing the one before it overlap; whatever `produce`
-  // reads must stay as it is until Commit returns.
-  void AddProduced(const std::string& name, std::function<std::string()> produce, bool checksummed);
+  // checked. A file expected to be large (`expected_size`, the size of the file it replaces)
+  // has its bytes made on another thread while the file before it is written, so that making
+  // a large table and writing the one before it overlap; whatever `produce` reads must stay as
+  // it is until Commit returns.
+  void AddProduced(const std::string& name, std::function<std::string()> produce, bool checksummed,
+                   uint64_t expected_size = 0);
   // The size of file `name` of the folder as it is now; 0 when it does not exist.
   uint64_t CurrentSize(const std::string& name) const;
   // Sets one more key of CRCFile.ini's section Main together with the files.
@@ -61,6 +65,7 @@ class FolderCommit {
     std::string name;
     std::function<std::string()> produce;
     bool checksummed;
+    uint64_t expectedSize;
   };
   // A file's bytes as made, with their checksum when the file is checksummed.
   struct Made {
