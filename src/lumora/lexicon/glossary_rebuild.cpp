@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lumora {
@@ -85,14 +86,17 @@ void ReadHeadwords(CGloV6& g) {
 
 // Gives each word its letter number, visiting the headwords in their own order: a large table
 // is then searched where the previous search left off instead of all over.
+// A word listed more than once takes the letter of its last listing.
 void SetLetterIds(CGloV6& g, const std::vector<HeadwordEntry>& words,
                   const std::vector<uint16_t>& letterIds) {
-  constexpr uint32_t kNoLetter = 0x10000;
-  std::vector<uint32_t> letterOfWord(0x10000, kNoLetter);
-  for (size_t i = 0; i < words.size(); ++i) letterOfWord[words[i].fnId] = letterIds[i];
-  for (uint32_t fnId = 0; fnId < letterOfWord.size(); ++fnId) {
-    if (letterOfWord[fnId] == kNoLetter) continue;
-    g.fns.Find(static_cast<uint16_t>(fnId))->letterId = static_cast<uint16_t>(letterOfWord[fnId]);
+  std::vector<std::pair<uint16_t, uint16_t>> letterOfWord;
+  letterOfWord.reserve(words.size());
+  for (size_t i = 0; i < words.size(); ++i) letterOfWord.emplace_back(words[i].fnId, letterIds[i]);
+  std::stable_sort(letterOfWord.begin(), letterOfWord.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  for (size_t i = 0; i < letterOfWord.size(); ++i) {
+    if (i + 1 < letterOfWord.size() && letterOfWord[i + 1].first == letterOfWord[i].first) continue;
+    g.fns.Find(letterOfWord[i].first)->letterId = letterOfWord[i].second;
   }
 }
 
