@@ -78,4 +78,4 @@ format-check:
 	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt
+	rm -rf $(BUILD) $(ASAN_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt $(DEMO_DIR)-logs $(DEMO_DIR)-export

@@ -11,7 +11,7 @@ step() {
   eval "${2//lumora /\"\$lumora\" }"
 }
 
-rm -rf "$dir" "$dir-rebuilt" "$dir-logs"
+rm -rf "$dir" "$dir-rebuilt" "$dir-logs" "$dir-export"
 step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
@@ -62,6 +62,16 @@ step "One read-only table stops the save before anything is written, and says wh
 step "Discipline 1's packages: version, generation date and a title per language (Content.mdb)" \
   'lumora packages $dir -d 1'
 step "The resources of packages 1 and 3" 'lumora packages $dir -d 1 --resources 1,3'
+step "Export packages 1 and 4 of discipline 1: resources, media, indexes, a partial glossary and grammar" \
+  'lumora export $dir -d 1 --packages 1,4 --to $dir-export --progress'
+step "The exported tree: a content root of its own" \
+  'cat $dir-export/Content.ini; (cd $dir-export && find . -type f | sed "s|/[^/]*$||" | sort | uniq -c | sort -rn | head -12)'
+step "Type-40 exercise 400001 of course 0 got its published .arh beside the .ars" \
+  'ls $dir-export/D001/C0000/r0000040'
+step "Opened again, the export lists its two packages" \
+  'lumora open $dir-export | head -6; lumora packages $dir-export -d 1'
+step "Its partial glossary holds only the words lesson 10001 names" \
+  'lumora glossary $dir-export -d 1 letters | head -6'
 step "Discipline 1's diagnosis data for user 3: the lessons and exercises its loads found" \
   'lumora diagnosis $dir -d 1 --user 3 | head -20'
 step "The internal log, installed for one command: an unreadable Content.ini is report 541" \
