@@ -44,14 +44,16 @@ struct LetterFilter {
 template <typename Keep>
 void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
   buckets.resize(glossary.letters.size());
-  // The letter of each word kept, by word number; 0 for the others.
-  std::vector<uint16_t> letter_of(size_t{UINT16_MAX} + 1, 0);
+  // The letter of each word kept, by word number up to the largest; 0 for the others.
+  uint16_t largest = 0;
+  for (const GloFNRecord& fn : glossary.fns) largest = std::max(largest, fn.fnId);
+  std::vector<uint16_t> letter_of(size_t{largest} + 1, 0);
   for (const GloFNRecord& fn : glossary.fns) {
     if (fn.kind != GloFNRecord::kEntryKind || fn.letterId == 0) continue;
     if (fn.letterId <= buckets.size() && keep(fn)) letter_of[fn.fnId] = fn.letterId;
   }
   for (const GloFNSortedRecord& entry : glossary.sorted) {
-    const uint16_t letter = letter_of[entry.fnId];
+    const uint16_t letter = entry.fnId <= largest ? letter_of[entry.fnId] : 0;
     if (letter != 0) buckets[letter - 1].push_back(entry.fnId);
   }
 }

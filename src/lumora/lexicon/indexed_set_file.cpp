@@ -5,7 +5,11 @@
 #include <lumora/platform/stream.h>
 #include <lumora/support/xcrc_file2.h>
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstdio>
+#include <cstring>
 #include <vector>
 
 namespace lumora {
@@ -53,7 +57,12 @@ bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& 
   std::vector<uint8_t> bytes;
   if (!ReadWhole(SetIndexPath(folder, name), bytes)) return false;
   offsets.SetSize(static_cast<uint32_t>(bytes.size() / 4));
-  for (uint32_t i = 0; i < offsets.size(); ++i) offsets[i] = DecodeU32(bytes.data() + 4 * i);
+  if (offsets.empty()) return true;
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(offsets.data(), bytes.data(), size_t{offsets.size()} * 4);
+  } else {
+    for (uint32_t i = 0; i < offsets.size(); ++i) offsets[i] = DecodeU32(bytes.data() + 4 * i);
+  }
   return true;
 }
 
@@ -77,7 +86,17 @@ bool IsIndexableRecord(const std::string& folder, uint32_t word, bool present,
 }
 
 void SetIndexEntries::Enter(uint32_t word, bool usable) {
-  for (; nextWord_ < word; ++nextWord_) index_.WriteU32(kNoRecordOffset);
+  // The words without a record before this one, a block of offsets at a time.
+  static const std::array<uint8_t, 1024> kNoRecords = [] {
+    std::array<uint8_t, 1024> block;
+    for (size_t i = 0; i < block.size(); i += 4) EncodeU32(block.data() + i, kNoRecordOffset);
+    return block;
+  }();
+  while (nextWord_ < word) {
+    const uint32_t n = std::min<uint32_t>(word - nextWord_, kNoRecords.size() / 4);
+    index_.Write(kNoRecords.data(), size_t{n} * 4);
+    nextWord_ += n;
+  }
   uint32_t entry = kNoRecordOffset;
   if (usable) {
     set_.Flush();
