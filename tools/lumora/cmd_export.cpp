@@ -5,6 +5,7 @@
 // discipline, so that the export is a content root of its own.
 #include <lumora/lumora.h>
 #include <lumora/packages/package_export.h>
+#include <lumora/platform/atomic_write.h>
 #include <lumora/support/paths.h>
 #include <lumora/support/profile_file.h>
 
@@ -88,9 +89,9 @@ std::string PrepareDestination(const Options& options) {
   }
   const std::string ini = WithBackslash(options.destination) + "Content.ini";
   if (!fs::exists(ini)) {
-    std::ofstream out(ini, std::ios::binary);
-    out << ExportedContentIni(options.root, options.discipline);
-    if (!out) throw CommandFailure(ini + ": cannot be written");
+    const WriteStatus written =
+        WriteFileAtomically(ini, ExportedContentIni(options.root, options.discipline));
+    if (!written.ok()) throw CommandFailure(written.ToString());
   }
   return exportFolder;
 }
