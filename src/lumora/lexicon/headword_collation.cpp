@@ -7,6 +7,10 @@
 #include <unicode/ucol.h>
 #include <unicode/uloc.h>
 
+#include <array>
+#include <map>
+#include <mutex>
+
 namespace lumora {
 namespace {
 
@@ -45,6 +49,23 @@ void AppendCollationKey(const UCollator* collator, std::u16string_view text, std
   key.resize(start + (needed > 0 ? needed - 1 : 0));
 }
 
+// For each unit below 256, what it reads as once written in the code page and read back (0
+// when it does not come back as one unit). Made once per code page: it takes hundreds of
+// conversions, and a glossary's order is rebuilt far more often than code pages change.
+std::array<char16_t, 256> ThroughCodePageTable(uint16_t codePage) {
+  static std::mutex mutex;
+  static std::map<uint16_t, std::array<char16_t, 256>> tables;
+  const std::lock_guard<std::mutex> lock(mutex);
+  auto [it, added] = tables.try_emplace(codePage);
+  if (added) {
+    for (char16_t unit = 1; unit < it->second.size(); ++unit) {
+      const std::u16string back = ThroughCodePage(std::u16string(1, unit), codePage);
+      if (back.size() == 1) it->second[unit] = back.front();
+    }
+  }
+  return it->second;
+}
+
 void AppendHighByteFirst(char16_t unit, std::string& key) {
   key.push_back(static_cast<char>(unit >> 8));
   key.push_back(static_cast<char>(unit & 0xFF));
@@ -55,12 +76,8 @@ void AppendHighByteFirst(char16_t unit, std::string& key) {
 HeadwordCollator::HeadwordCollator(uint8_t language)
     : language_(language),
       codePage_(CodePageOf(language)),
-      collator_(OpenCollator(LangIdOf(language))) {
-  for (char16_t unit = 1; unit < throughCodePage_.size(); ++unit) {
-    const std::u16string back = ThroughCodePage(std::u16string(1, unit), codePage_);
-    if (back.size() == 1) throughCodePage_[unit] = back.front();
-  }
-}
+      collator_(OpenCollator(LangIdOf(language))),
+      throughCodePage_(ThroughCodePageTable(codePage_)) {}
 
 HeadwordCollator::~HeadwordCollator() = default;
 

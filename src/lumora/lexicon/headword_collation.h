@@ -61,7 +61,7 @@ class HeadwordCollator {
   // What each code unit below 256 becomes on its way to the code page and back; 0 where that
   // is not one unit. Code pages convert character by character, so a key made of such units
   // needs no converter.
-  std::array<char16_t, 256> throughCodePage_{};
+  std::array<char16_t, 256> throughCodePage_;
   mutable std::u16string scratch_;
 };
 
