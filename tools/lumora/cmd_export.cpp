@@ -13,6 +13,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -71,6 +72,31 @@ std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
                        std::to_string(discipline));
 }
 
+// The export's publishing pass writes beside the resources of every discipline that DEST's
+// Content.ini lists, below their Local roots: one that points outside DEST would have files of
+// another tree rewritten. Such a destination is refused before anything is written.
+void CheckLocalRoots(const std::string& destination) {
+  ProfileFile ini;
+  if (!ini.Load(WithBackslash(destination) + "Content.ini")) return;
+  const fs::path inside = fs::weakly_canonical(fs::absolute(destination));
+  std::vector<std::string> sections = {"Common"};
+  for (int n = 1; ini.FindSection(SectionName(n)); ++n) sections.push_back(SectionName(n));
+  for (const std::string& section : sections) {
+    if (!ini.FindSection(section)) continue;
+    std::string local = ini.GetString("Local");
+    if (local.empty()) continue;
+    std::replace(local.begin(), local.end(), '\\', '/');
+    const fs::path root = fs::weakly_canonical(fs::absolute(local));
+    const auto [end, ignored] =
+        std::mismatch(inside.begin(), inside.end(), root.begin(), root.end());
+    if (end != inside.end()) {
+      throw CommandFailure(WithBackslash(destination) + "Content.ini: section " + section +
+                           " has its files in " + local +
+                           ", outside the destination, where the export would write");
+    }
+  }
+}
+
 // DEST with its export folder, an empty database there unless one exists, and a Content.ini
 // unless DEST has one. Answers the export folder.
 std::string PrepareDestination(const Options& options) {
@@ -79,6 +105,7 @@ std::string PrepareDestination(const Options& options) {
   if (fs::exists(destination, error) && !fs::is_directory(destination, error)) {
     throw CommandFailure(options.destination + ": is not a folder");
   }
+  CheckLocalRoots(options.destination);
   const std::string exportFolder = ExportFolderOf(options.destination, options.discipline);
   fs::create_directories(exportFolder, error);
   if (error) throw CommandFailure(exportFolder + ": cannot be created: " + error.message());
