@@ -104,14 +104,30 @@ Location Locate(const std::vector<Line>& lines, std::string_view section, std::s
   return at;
 }
 
+// Reads as Locate finds, walking the bytes in place: a file of checksums is read once for
+// every table a glossary loads, and splitting it into line strings each time cost more than
+// reading it.
 std::optional<std::string> Find(const std::string& path, const std::string& section,
                                 const std::string& key) {
   std::optional<std::string> bytes = ReadAll(path);
   if (!bytes) return std::nullopt;
-  std::vector<Line> lines = SplitLines(*bytes);
-  Location at = Locate(lines, section, key);
-  if (!at.key) return std::nullopt;
-  return std::string(Classify(lines[*at.key].text).value);
+  const std::string_view wanted_section = TrimAny(section, kBlanks);
+  const std::string_view wanted_key = TrimAny(key, kBlanks);
+  bool in_section = false;
+  std::string_view rest(*bytes);
+  while (!rest.empty()) {
+    const size_t lf = rest.find('\n');
+    const Entry entry = Classify(rest.substr(0, lf));
+    rest.remove_prefix(lf == std::string_view::npos ? rest.size() : lf + 1);
+    if (entry.kind == Entry::kSection) {
+      if (in_section) break;
+      in_section = EqualsIgnoringCase(entry.name, wanted_section);
+    } else if (in_section && entry.kind == Entry::kKey &&
+               EqualsIgnoringCase(entry.name, wanted_key)) {
+      return std::string(entry.value);
+    }
+  }
+  return std::nullopt;
 }
 
 // Names and values that would not read back as written are refused: a line break would
