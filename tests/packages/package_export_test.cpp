@@ -6,6 +6,8 @@
 #include <lumora/packages/export_resources.h>
 #include <lumora/packages/package_export.h>
 #include <lumora/resources/index_forms.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/support/paths.h>
 
 #include <gtest/gtest.h>
 
@@ -16,6 +18,7 @@
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "fixtures/temp_dir.h"
@@ -132,6 +135,25 @@ TEST_F(PackageExport, WritesACopyThatOpensAsAContentRootAndLeavesTheSourceAsItWa
   EXPECT_TRUE(fs::exists(exportFolder() + "C0000/r0001001/t_Glo_FNs.set"));
   EXPECT_TRUE(fs::exists(exportFolder() + "C0000/r0001002/t_Gr_Points.set"));
   EXPECT_TRUE(fs::exists(exportFolder() + "Diagnosis.txt"));
+}
+
+TEST_F(PackageExport, PublishedResourcesAreReadFromTheirArhFiles) {
+  ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
+  ASSERT_TRUE(Export({4})) << report;
+  lmClose();
+  // With every published type's .ars file cut short, only its .arh twin can be read.
+  const std::pair<uint32_t, uint32_t> published[] = {{40, 400001}, {5, 4}, {10, 4}, {28, 4}};
+  for (const auto& [type, id] : published) {
+    const std::string ars = exportFolder() + ExportResourcePath("", type, id);
+    ASSERT_TRUE(fs::exists(ChangeExtension(ars, "arh"))) << ars;
+    fs::resize_file(ars, 5);
+  }
+  ASSERT_TRUE(lmOpen(destination().c_str(), 1));
+  const ContentRequest request{0, 1, 1, kPathLocal};
+  for (const auto& [type, id] : published) {
+    std::unique_ptr<ExerciseResource> resource = NewResource(type);
+    EXPECT_TRUE(lmGetResource(&request, id, resource.get(), false)) << type;
+  }
 }
 
 TEST_F(PackageExport, ProblemsInTheSourceAreReportedAndTheExportGoesOn) {
