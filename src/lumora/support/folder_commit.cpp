@@ -105,8 +105,11 @@ WriteStatus FolderCommit::Commit() {
     throw;
   }
   if (status.ok() && UsesList()) status = StageList(staged, list);
-  if (status.ok()) status = FlushStaged(staged);
-  if (status.ok() && staged.size() > 1) status = WriteJournal(staged);
+  // The journal is staged with the files and flushed with them, in one batch.
+  const bool journaled = staged.size() > 1;
+  if (status.ok() && journaled) status = StageJournal(staged);
+  if (status.ok()) status = FlushStaged(staged, journaled);
+  if (status.ok() && journaled) status = RecordJournal();
   if (!status.ok()) {
     Discard(staged);
     return status;
@@ -166,10 +169,12 @@ WriteStatus FolderCommit::StageList(std::vector<std::string>& staged,
   return {};
 }
 
-WriteStatus FolderCommit::FlushStaged(const std::vector<std::string>& staged) const {
+WriteStatus FolderCommit::FlushStaged(const std::vector<std::string>& staged,
+                                      bool journaled) const {
   if (FlushesDeferred()) return {};
   std::vector<std::string> paths;
   for (const std::string& name : staged) paths.push_back(StagingPath(folder_ + name));
+  if (journaled) paths.push_back(StagingPath(folder_ + kCommitJournalName));
   std::string failed;
   if (int error = disk::SyncFiles(paths, &failed)) {
     return WriteStatus::Failure(failed, "cannot flush it to disk", error);
@@ -177,17 +182,20 @@ WriteStatus FolderCommit::FlushStaged(const std::vector<std::string>& staged) co
   return {};
 }
 
-WriteStatus FolderCommit::WriteJournal(const std::vector<std::string>& staged) const {
+WriteStatus FolderCommit::StageJournal(const std::vector<std::string>& staged) const {
   std::string text = "lumora commit\n";
   for (const std::string& name : staged) text += name + "\n";
   text += "end\n";
+  return StageFile(folder_ + kCommitJournalName, text, false);
+}
+
+WriteStatus FolderCommit::RecordJournal() const {
   const std::string journal = folder_ + kCommitJournalName;
-  const bool flush = !FlushesDeferred();
-  if (WriteStatus written = StageFile(journal, text, flush); !written.ok()) return written;
   int error = disk::Rename(StagingPath(journal), journal);
-  if (error == 0 && flush && (error = disk::SyncFolder(folder_)) != 0) disk::Remove(journal);
+  if (error == 0 && !FlushesDeferred() && (error = disk::SyncFolder(folder_)) != 0) {
+    disk::Remove(journal);
+  }
   if (error == 0) return {};
-  disk::Remove(StagingPath(journal));
   return WriteStatus::Failure(journal, "cannot record the save", error);
 }
 
@@ -214,6 +222,7 @@ WriteStatus FolderCommit::Publish(const std::vector<std::string>& staged) const 
 
 void FolderCommit::Discard(const std::vector<std::string>& staged) const {
   for (const std::string& name : staged) disk::Remove(StagingPath(folder_ + name));
+  if (staged.size() > 1) disk::Remove(StagingPath(folder_ + kCommitJournalName));
 }
 
 }  // namespace lumora

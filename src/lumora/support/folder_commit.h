@@ -6,11 +6,11 @@
 //  2. Check every target before anything is written: each existing file must be a regular,
 //     writable file that nobody else holds, and CRCFile.ini must be readable.
 //  3. Write each new file as <name>.lumora-new, then the new CRCFile.ini the same way, with the
-//     checksum and date of every checksummed file and the other keys of the save; then flush
-//     them all to disk together.
-//  4. Commit: write the list of renames to .lumora-commit (itself staged and renamed into place)
-//     and flush the folder. Before this point a failure removes the staged files and leaves
-//     every old file as it was; after it, the save is decided.
+//     checksum and date of every checksummed file and the other keys of the save, and the list
+//     of renames as .lumora-commit.lumora-new; then flush them all to disk together.
+//  4. Commit: rename the list into place as .lumora-commit and flush the folder. Before this
+//     point a failure removes the staged files and leaves every old file as it was; after it,
+//     the save is decided.
 //  5. Rename every staged file over its target, CRCFile.ini last, flush the folder, and remove
 //     .lumora-commit.
 // While a DeferredFlush lives on the thread (a whole new tree being written), the flushes are
@@ -79,8 +79,9 @@ class FolderCommit {
   WriteStatus CheckTargets(std::vector<std::unique_ptr<File>>& held) const;
   WriteStatus StageFiles(std::vector<std::string>& staged, ListValues& list) const;
   WriteStatus StageList(std::vector<std::string>& staged, const ListValues& list) const;
-  WriteStatus FlushStaged(const std::vector<std::string>& staged) const;
-  WriteStatus WriteJournal(const std::vector<std::string>& staged) const;
+  WriteStatus FlushStaged(const std::vector<std::string>& staged, bool journaled) const;
+  WriteStatus StageJournal(const std::vector<std::string>& staged) const;
+  WriteStatus RecordJournal() const;
   WriteStatus Publish(const std::vector<std::string>& staged) const;
   void Discard(const std::vector<std::string>& staged) const;
 
