@@ -132,6 +132,13 @@ TEST_F(IndexedSetFile, EmptyTableWritesHeaderAndEmptyIndex) {
   ASSERT_TRUE(Save(true));
   EXPECT_EQ(dir.Read("t_Glo_Sounds.set"), AsString(Concat({U32(2), U32(0)})));
   EXPECT_EQ(dir.Read("t_Glo_Sounds.idx"), "");
+  // An empty index, or one shorter than an entry, reads as no offsets (the sanitizer build
+  // once found the empty one copied from nowhere).
+  for (const char* index : {"", "\x01\x02"}) {
+    dir.Write("t_Glo_Sounds.idx", index);
+    ASSERT_TRUE(Load(false));
+    EXPECT_EQ(offsets.size(), 0u);
+  }
 }
 
 TEST_F(IndexedSetFile, PresentIndexIsReadInsteadOfTheRecords) {
