@@ -171,24 +171,18 @@ void Run(const Options& options) {
   const std::string exportFolder = PrepareDestination(options);
 
   std::string report;
-  uint32_t resources = 0;
-  if (custom) resources = lists->packageResources.size();
-  std::unique_ptr<ExportProgressBar> bar;
-  Progress progress;
-  if (ShowsProgress(options)) {
-    // The number of rows is known once the library has read them: the range tells it.
-    progress.onRange = [&](uint32_t maximum) {
-      bar = std::make_unique<ExportProgressBar>(maximum - 16);
-      bar->Callbacks().onRange(maximum);
-    };
-    progress.onPosition = [&](uint32_t position) {
-      if (bar) bar->Callbacks().onPosition(position);
-    };
-  }
-  progress.onRange = [&, draw = progress.onRange](uint32_t maximum) {
-    resources = maximum - 16;
-    if (draw) draw(maximum);
-  };
+  uint32_t resources = custom ? lists->packageResources.size() : 0;
+  std::optional<ExportProgressBar> bar;
+  const bool shows = ShowsProgress(options);
+  // The number of rows is known once the library has read them: the range, n + 16, tells it.
+  const Progress progress(
+      [&](uint32_t maximum) {
+        resources = maximum - 16;
+        if (shows) bar.emplace(resources, maximum);
+      },
+      [&](uint32_t position) {
+        if (bar) bar->Draw(position);
+      });
   const bool ok =
       custom ? lmExportCustomizedPackage(&lists->packages, &lists->translations,
                                          &lists->packageResources, &lists->packageIds,

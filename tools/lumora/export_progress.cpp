@@ -11,16 +11,13 @@ constexpr int kBarWidth = 30;
 
 }  // namespace
 
-ExportProgressBar::ExportProgressBar(uint32_t resources)
-    : resources_(resources), start_(std::chrono::steady_clock::now()) {}
+ExportProgressBar::ExportProgressBar(uint32_t resources, uint32_t maximum)
+    : resources_(resources), maximum_(maximum), start_(std::chrono::steady_clock::now()) {
+  Draw(0);
+}
 
 ExportProgressBar::~ExportProgressBar() {
   if (drawn_) std::fputc('\n', stderr);
-}
-
-Progress ExportProgressBar::Callbacks() {
-  return Progress([this](uint32_t maximum) { maximum_ = maximum, Draw(0); },
-                  [this](uint32_t position) { Draw(position); });
 }
 
 // After the resources the export sends n+1 (classification and glossary follow), n+5 (the
