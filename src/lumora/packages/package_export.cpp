@@ -4,10 +4,12 @@
 #include <lumora/packages/package_export.h>
 #include <lumora/packages/partial_lexicon.h>
 #include <lumora/platform/atomic_write.h>
+#include <lumora/platform/kept_files.h>
 #include <lumora/resources/export_indexes.h>
 #include <lumora/resources/media_copy.h>
 #include <lumora/resources/publish.h>
 #include <lumora/resources/report_format.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <diagnosis/diagnosis.h>
@@ -85,6 +87,8 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
   }
   DeferredFlush flush(root);
   const MediaCopiedOnce media_once;
+  const ListedFiles listed_sources;
+  const KeptFiles copies_to_index;
   ExportRows rows(std::move(database), report);
   if (!rows.Open(exportFolder) || !rows.CreateTables() || !rows.AddPackages(lists)) return false;
 
@@ -93,12 +97,19 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
   ExportResourceCopier copier(source.localRoot, exportFolder, qualityFolders, report);
   for (uint32_t i = 0; i < n; ++i) {
     const PackageResourceRecord& row = *lists.packageResources.ObjectAt(i);
+    const size_t said = report.size();
     if (!rows.AddPackageResource(lists.packageResources.KeyAt(i), row.idResource, row.idItem)) {
+      // What the copies so far have to say goes before the line that stops the export.
+      const std::string stop = report.substr(said);
+      report.resize(said);
+      copier.Finish();
+      report += stop;
       return false;
     }
     copier.Copy(row.idResource, row.idItem);
     if (i % 5 == 0) bar.SetPosition(i);
   }
+  copier.Finish();
   RebuildExportIndexes(exportFolder);
   for (uint32_t type : kPublishingTypes) PublishResources(type, root, true);
   bar.SetPosition(n + 1);

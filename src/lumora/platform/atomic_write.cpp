@@ -22,19 +22,37 @@ std::string FolderPart(const std::string& path) {
 
 std::string StagingPath(const std::string& path) { return path + std::string(kStagingSuffix); }
 
-WriteStatus CheckReplaceable(const std::string& path) {
-  const std::string folder = FolderPart(path);
+namespace {
+
+// What stands at `path` before it is replaced: nothing, or a regular file with write permission
+// whose permission bits the new file keeps.
+struct Existing {
+  bool replacing = false;
+  unsigned mode = 0666;
+};
+
+WriteStatus CheckTarget(const std::string& path, Existing* existing) {
   struct stat st;
-  if (::stat(folder.empty() ? "." : folder.c_str(), &st) != 0) {
-    return WriteStatus::Failure(path, "cannot write into its folder", errno);
-  }
   if (::stat(path.c_str(), &st) != 0) {
     if (errno == ENOENT) return {};
     return WriteStatus::Failure(path, "cannot be replaced", errno);
   }
   if (!S_ISREG(st.st_mode)) return WriteStatus::Failure(path, "is not a regular file");
   if ((st.st_mode & S_IWUSR) == 0) return WriteStatus::Failure(path, "is read-only");
+  *existing = {true, st.st_mode & 07777u};
   return {};
+}
+
+}  // namespace
+
+WriteStatus CheckReplaceable(const std::string& path) {
+  const std::string folder = FolderPart(path);
+  struct stat st;
+  if (::stat(folder.empty() ? "." : folder.c_str(), &st) != 0) {
+    return WriteStatus::Failure(path, "cannot write into its folder", errno);
+  }
+  Existing existing;
+  return CheckTarget(path, &existing);
 }
 
 namespace {
@@ -47,20 +65,19 @@ struct BodyFailure {
   const std::string* file = nullptr;
 };
 
-// Creates StagingPath(path) with the target's permission bits (0666 for a new file), lets
-// `write_body` fill it, flushes it unless `flush` is false and closes it. A failure removes the
-// staging file again.
+// Creates StagingPath(path) with the permission bits of what it replaces, lets `write_body`
+// fill it, flushes it unless `flush` is false and closes it. A failure removes the staging file
+// again.
 template <typename WriteBody>
-WriteStatus Stage(const std::string& path, bool flush, WriteBody&& write_body) {
-  struct stat old;
-  const bool replacing = ::stat(path.c_str(), &old) == 0;
-  const unsigned mode = replacing ? (old.st_mode & 07777) : 0666;
+WriteStatus Stage(const std::string& path, const Existing& existing, bool flush,
+                  WriteBody&& write_body) {
   const std::string staging = StagingPath(path);
   int fd = -1;
-  BodyFailure failure{disk::CreateForWriting(staging, mode, &fd), "cannot create a file beside it"};
+  BodyFailure failure{disk::CreateForWriting(staging, existing.mode, &fd),
+                      "cannot create a file beside it"};
   if (failure.error == 0) {
     failure = write_body(fd);
-    if (failure.error == 0 && replacing) failure.error = disk::SetMode(fd, mode);
+    if (failure.error == 0 && existing.replacing) failure.error = disk::SetMode(fd, existing.mode);
     if (failure.error == 0 && flush && (failure.error = disk::SyncFile(fd)) != 0)
       failure.what = "cannot flush it to disk";
     const int closed = disk::CloseFile(fd);
@@ -71,27 +88,35 @@ WriteStatus Stage(const std::string& path, bool flush, WriteBody&& write_body) {
   return WriteStatus::Failure(failure.file ? *failure.file : path, failure.what, failure.error);
 }
 
+BodyFailure WriteBytes(int fd, std::string_view bytes) {
+  return {disk::WriteAll(fd, bytes.data(), bytes.size())};
+}
+
 }  // namespace
 
 WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flush) {
-  return Stage(path, flush,
-               [&](int fd) { return BodyFailure{disk::WriteAll(fd, bytes.data(), bytes.size())}; });
+  struct stat old;
+  Existing existing;
+  if (::stat(path.c_str(), &old) == 0) existing = {true, old.st_mode & 07777u};
+  return Stage(path, existing, flush, [&](int fd) { return WriteBytes(fd, bytes); });
 }
 
 namespace {
 
 // Checks `path`, has `stage` write its staging file (flushed unless flushing is deferred) and
-// renames it into place, holding the folder's lock throughout.
+// renames it into place, holding the folder's lock throughout (taken here unless the caller
+// holds it). The lock opens the folder, which is all the check its folder needs.
 template <typename StageIt>
-WriteStatus Replace(const std::string& path, StageIt&& stage) {
+WriteStatus Replace(const std::string& path, bool locked_by_caller, StageIt&& stage) {
   const std::string folder = FolderPart(path);
   FolderLock lock;
-  if (int error = lock.Acquire(folder, FolderLock::Mode::kExclusive)) {
+  if (int error = locked_by_caller ? 0 : lock.Acquire(folder, FolderLock::Mode::kExclusive)) {
     return WriteStatus::Failure(path, "cannot lock its folder", error);
   }
-  if (WriteStatus check = CheckReplaceable(path); !check.ok()) return check;
+  Existing existing;
+  if (WriteStatus check = CheckTarget(path, &existing); !check.ok()) return check;
   const bool flush = !flush_deferred;
-  if (WriteStatus staged = stage(flush); !staged.ok()) return staged;
+  if (WriteStatus staged = stage(existing, flush); !staged.ok()) return staged;
   if (int error = disk::Rename(StagingPath(path), path)) {
     disk::Remove(StagingPath(path));
     return WriteStatus::Failure(path, "cannot rename the new file into place", error);
@@ -114,20 +139,41 @@ BodyFailure CopyBody(int source_fd, const std::string& source, int fd) {
   return {};
 }
 
+WriteStatus WriteFile(const std::string& path, std::string_view bytes, bool locked_by_caller) {
+  return Replace(path, locked_by_caller, [&](const Existing& existing, bool flush) {
+    return Stage(path, existing, flush, [&](int fd) { return WriteBytes(fd, bytes); });
+  });
+}
+
+WriteStatus CopyFile(const std::string& source, const std::string& destination,
+                     bool locked_by_caller) {
+  const int source_fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
+  if (source_fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
+  WriteStatus status =
+      Replace(destination, locked_by_caller, [&](const Existing& existing, bool flush) {
+        return Stage(destination, existing, flush,
+                     [&](int fd) { return CopyBody(source_fd, source, fd); });
+      });
+  ::close(source_fd);
+  return status;
+}
+
 }  // namespace
 
 WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes) {
-  return Replace(path, [&](bool flush) { return StageFile(path, bytes, flush); });
+  return WriteFile(path, bytes, false);
 }
 
 WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination) {
-  const int source_fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
-  if (source_fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
-  WriteStatus status = Replace(destination, [&](bool flush) {
-    return Stage(destination, flush, [&](int fd) { return CopyBody(source_fd, source, fd); });
-  });
-  ::close(source_fd);
-  return status;
+  return CopyFile(source, destination, false);
+}
+
+WriteStatus WriteFileInLockedFolder(const std::string& path, std::string_view bytes) {
+  return WriteFile(path, bytes, true);
+}
+
+WriteStatus CopyFileInLockedFolder(const std::string& source, const std::string& destination) {
+  return CopyFile(source, destination, true);
 }
 
 bool FlushesDeferred() { return flush_deferred; }

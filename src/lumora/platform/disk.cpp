@@ -1,5 +1,6 @@
 #include <lumora/platform/disk.h>
 #include <lumora/platform/fault_injection.h>
+#include <lumora/platform/kept_files.h>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,6 +14,7 @@ using fault::TakeStep;
 
 int CreateForWriting(const std::string& path, unsigned mode, int* fd) {
   *fd = -1;
+  ForgetKeptFile(path);
   if (int injected = TakeStep(Step::kCreate)) return injected;
   *fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, static_cast<mode_t>(mode));
   return *fd < 0 ? errno : 0;
@@ -65,11 +67,14 @@ int CloseFile(int fd) {
 }
 
 int Rename(const std::string& from, const std::string& to) {
+  ForgetKeptFile(from);
+  ForgetKeptFile(to);
   if (int injected = TakeStep(Step::kRename)) return injected;
   return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
 }
 
 int Remove(const std::string& path) {
+  ForgetKeptFile(path);
   if (int injected = TakeStep(Step::kRemove)) return injected;
   return ::unlink(path.c_str()) == 0 || errno == ENOENT ? 0 : errno;
 }

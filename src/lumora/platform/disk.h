@@ -1,6 +1,7 @@
 // The few operations that change what is on disk, each answering 0 or the errno that stopped
 // it, and each passing the fault-injection seam first. Whatever the library writes goes
-// through these, so that one seam sees every step of every save.
+// through these, so that one seam sees every step of every save. Each also forgets what a
+// KeptFiles kept for the paths it changes.
 #pragma once
 
 #include <cstddef>

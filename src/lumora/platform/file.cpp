@@ -128,4 +128,35 @@ uint64_t File::Size() const {
   return static_cast<uint64_t>(st.st_size);
 }
 
+WholeFile ReadWholeFile(const std::string& path, uint64_t most_bytes, std::string& bytes) {
+  bytes.clear();
+  const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (fd < 0) {
+    return errno == ENOENT || errno == ENOTDIR ? WholeFile::kMissing : WholeFile::kUnreadable;
+  }
+  struct stat st;
+  WholeFile result = WholeFile::kRead;
+  if (::fstat(fd, &st) != 0) {
+    result = WholeFile::kUnreadable;
+  } else if (!S_ISREG(st.st_mode)) {
+    result = WholeFile::kMissing;
+  } else if (static_cast<uint64_t>(st.st_size) > most_bytes) {
+    result = WholeFile::kTooLarge;
+  } else {
+    // The bytes it had when it was opened: a file that shrinks meanwhile gives fewer.
+    bytes.resize(static_cast<size_t>(st.st_size));
+    size_t done = 0;
+    while (done < bytes.size()) {
+      const ssize_t got = ::read(fd, bytes.data() + done, bytes.size() - done);
+      if (got < 0 && errno == EINTR) continue;
+      if (got < 0) result = WholeFile::kUnreadable;
+      if (got <= 0) break;
+      done += static_cast<size_t>(got);
+    }
+    bytes.resize(done);
+  }
+  ::close(fd);
+  return result;
+}
+
 }  // namespace lumora

@@ -65,4 +65,12 @@ class File {
   uint64_t openedSize_ = 0;  // a short read of a regular file means its end: no read to confirm
 };
 
+// What reading a whole file gave.
+enum class WholeFile { kRead, kMissing, kUnreadable, kTooLarge };
+
+// Reads all of the regular file at `path` into `bytes`, unless it holds more than `most_bytes`.
+// kMissing when nothing stands there or something other than a regular file does (a folder, a
+// pipe: nothing waits for a writer).
+WholeFile ReadWholeFile(const std::string& path, uint64_t most_bytes, std::string& bytes);
+
 }  // namespace lumora

@@ -25,6 +25,13 @@ size_t MemoryStream::Read(void* buffer, size_t n) {
   return take;
 }
 
+size_t ViewStream::Read(void* buffer, size_t n) {
+  const size_t take = std::min(n, bytes_.size() - pos_);
+  if (take > 0) std::memcpy(buffer, bytes_.data() + pos_, take);
+  pos_ += take;
+  return take;
+}
+
 bool MemoryStream::Write(const void* buffer, size_t n) {
   const auto* p = static_cast<const uint8_t*>(buffer);
   bytes_.insert(bytes_.end(), p, p + n);

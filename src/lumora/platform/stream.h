@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -65,6 +66,19 @@ class MemoryStream : public Stream {
 
  private:
   std::vector<uint8_t> bytes_;
+  size_t pos_ = 0;
+};
+
+// A load-only stream over bytes that someone else keeps alive.
+class ViewStream : public Stream {
+ public:
+  explicit ViewStream(std::string_view bytes) : bytes_(bytes) {}
+  size_t Read(void* buffer, size_t n) override;
+  bool Write(const void*, size_t) override { return false; }
+  uint64_t Remaining() const override { return bytes_.size() - pos_; }
+
+ private:
+  std::string_view bytes_;
   size_t pos_ = 0;
 };
 

@@ -6,8 +6,9 @@
 
 namespace lumora {
 
-// Rebuilds the index file of every exercise type, in ascending type order, from the resources
-// below export_root into export_root itself. Every rebuild runs even after one has failed;
+// Rebuilds the index file of every exercise type, in ascending type order (type 1005 just
+// before type 40, whose index reads it), from the resources below export_root into export_root
+// itself. Every rebuild runs even after one has failed;
 // true when all of them succeeded.
 bool RebuildExportIndexes(const std::string& export_root);
 

@@ -23,21 +23,23 @@ std::string LocalPathOf(const std::string& unc_path, const std::string& root) {
   return root + relative;
 }
 
-// The destinations copied while a MediaCopiedOnce lives on this thread; null otherwise.
-thread_local std::unordered_set<std::string>* copied_once = nullptr;
+// The MediaCopiedOnce living on this thread; null when none does.
+thread_local MediaCopiedOnce* copied_once = nullptr;
 
 }  // namespace
 
-MediaCopiedOnce::MediaCopiedOnce() : previous_(copied_once) { copied_once = &copied_; }
+MediaCopiedOnce::MediaCopiedOnce() : previous_(copied_once) { copied_once = this; }
 
 MediaCopiedOnce::~MediaCopiedOnce() { copied_once = previous_; }
 
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name) {
   const std::string destination = folder + name;
-  if (copied_once != nullptr && copied_once->count(destination) != 0) return true;
-  if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
+  if (copied_once != nullptr && copied_once->copied_.count(destination) != 0) return true;
+  const bool made = copied_once != nullptr && copied_once->folders_.count(folder) != 0;
+  if (!made && !FolderExists(folder) && !CreateFolderPath(folder)) return false;
+  if (copied_once != nullptr) copied_once->folders_.insert(folder);
   if (!CopyFileAtomically(from, destination).ok()) return false;
-  if (copied_once != nullptr) copied_once->insert(destination);
+  if (copied_once != nullptr) copied_once->copied_.insert(destination);
   return true;
 }
 

@@ -17,7 +17,8 @@ bool CopyFileInto(const std::string& from, const std::string& folder, const std:
 
 // While one lives on the calling thread, CopyFileInto copies to each destination once: the
 // resources of an export share media, and a medium already copied by one of them is there
-// for the others.
+// for the others. It also remembers the folders it made or found, which nothing removes
+// meanwhile.
 class MediaCopiedOnce {
  public:
   MediaCopiedOnce();
@@ -26,8 +27,11 @@ class MediaCopiedOnce {
   MediaCopiedOnce& operator=(const MediaCopiedOnce&) = delete;
 
  private:
+  friend bool CopyFileInto(const std::string&, const std::string&, const std::string&);
+
   std::unordered_set<std::string> copied_;
-  std::unordered_set<std::string>* previous_;
+  std::unordered_set<std::string> folders_;
+  MediaCopiedOnce* previous_;
 };
 
 class MediaCopier {

@@ -2,6 +2,7 @@
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <array>
@@ -84,7 +85,7 @@ bool MediaRef::BuildPath(const std::string& local_root, uint32_t path_kind,
     const std::string candidate = local + QualityFolderName(q) + kPathSeparator + stem;
     for (std::string_view ext : files->extensions) {
       if (ext.empty()) break;
-      if (!FileExists(candidate + std::string(ext))) continue;
+      if (!FileListed(candidate + std::string(ext))) continue;
       path = chosen_root;
       for (const std::string& part : {course, type_folder, QualityFolderName(q)}) {
         path.append(part).push_back(sep);

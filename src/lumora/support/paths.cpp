@@ -1,6 +1,7 @@
 #include <lumora/platform/archive.h>
 #include <lumora/platform/atomic_write.h>
 #include <lumora/platform/file.h>
+#include <lumora/platform/kept_files.h>
 #include <lumora/platform/object.h>
 #include <lumora/platform/stream.h>
 #include <lumora/support/paths.h>
@@ -125,6 +126,7 @@ bool LoadArchiveFile(const std::string& path, bool store, Object& object) {
       ar.Flush();
       return WriteFileAtomically(path, sink.Take()).ok();
     }
+    if (const std::string* kept = KeptFile(path)) return LoadArchiveBytes(*kept, object);
     File file;
     if (!file.Open(path, kRead | kShareDenyNone | kBinary)) return false;
     FileStream stream(file);
@@ -132,6 +134,17 @@ bool LoadArchiveFile(const std::string& path, bool store, Object& object) {
     object.Serialize(ar);
   } catch (const std::exception&) {
     // Archive errors, and allocations refused for counts a corrupted file claims.
+    return false;
+  }
+  return true;
+}
+
+bool LoadArchiveBytes(std::string_view bytes, Object& object) {
+  try {
+    ViewStream stream(bytes);
+    Archive ar(stream, Archive::Mode::kLoad);
+    object.Serialize(ar);
+  } catch (const std::exception&) {
     return false;
   }
   return true;

@@ -42,7 +42,11 @@ std::string FirstExistingFile(const std::string& base,
 // Stores `object` into (creating or truncating) or loads it from the file at `path` through an
 // archive with a 4096-byte buffer. False on any file or archive error; a partly loaded object
 // keeps what it read.
+// While a KeptFiles lives on this thread, a file kept in it loads from the kept bytes.
 bool LoadArchiveFile(const std::string& path, bool store, Object& object);
+
+// Loads `object` from a file's bytes already in memory, as LoadArchiveFile loads the file.
+bool LoadArchiveBytes(std::string_view bytes, Object& object);
 
 // folder + prefix + n + "." + extension for the first n = 0, 1, 2, ... naming no existing file.
 // Null arguments take the defaults "tmp", the temporary folder and "~AT". Nothing is created,

@@ -31,6 +31,10 @@ bool BuildType2000Index(const std::string& resource_root, const std::string& ind
 // elements that its items refer to; false without writing anything when that index cannot be
 // read back.
 bool BuildType40Index(const std::string& resource_root, const std::string& index_folder);
+// The same over the type-1005 index file already in index_folder, for a caller that has just
+// rebuilt it.
+bool BuildType40IndexOverElements(const std::string& resource_root,
+                                  const std::string& index_folder);
 
 // Usage value 1 when the resource has something to practise, else 0: a word (type 2), a text
 // (3), a choice (7), a record after the leading one (12, 13), an item (15).

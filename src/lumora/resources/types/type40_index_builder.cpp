@@ -78,6 +78,11 @@ uint32_t UsageValue(const Type40Resource& resource, const ElementFlags& elements
 
 bool BuildType40Index(const std::string& resource_root, const std::string& index_folder) {
   BuildType1005Index(resource_root, index_folder);
+  return BuildType40IndexOverElements(resource_root, index_folder);
+}
+
+bool BuildType40IndexOverElements(const std::string& resource_root,
+                                  const std::string& index_folder) {
   Type1005Index elements;
   if (!elements.Load(IndexFilePath(index_folder, kContentElementType))) return false;
 
