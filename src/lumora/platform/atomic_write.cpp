@@ -31,9 +31,20 @@ struct Existing {
   unsigned mode = 0666;
 };
 
-WriteStatus CheckTarget(const std::string& path, Existing* existing) {
+// A file to replace. The system calls name it relative to its open folder when there is one,
+// which spares them walking the whole path for every file.
+struct Target {
+  const std::string& path;
+  int folder_fd = AT_FDCWD;
+  std::string name;  // the last part of `path` below folder_fd; the whole path with AT_FDCWD
+
+  std::string staging_name() const { return name + std::string(kStagingSuffix); }
+};
+
+WriteStatus CheckTarget(const Target& target, Existing* existing) {
+  const std::string& path = target.path;
   struct stat st;
-  if (::stat(path.c_str(), &st) != 0) {
+  if (::fstatat(target.folder_fd, target.name.c_str(), &st, 0) != 0) {
     if (errno == ENOENT) return {};
     return WriteStatus::Failure(path, "cannot be replaced", errno);
   }
@@ -52,7 +63,7 @@ WriteStatus CheckReplaceable(const std::string& path) {
     return WriteStatus::Failure(path, "cannot write into its folder", errno);
   }
   Existing existing;
-  return CheckTarget(path, &existing);
+  return CheckTarget({path, AT_FDCWD, path}, &existing);
 }
 
 namespace {
@@ -65,15 +76,17 @@ struct BodyFailure {
   const std::string* file = nullptr;
 };
 
-// Creates StagingPath(path) with the permission bits of what it replaces, lets `write_body`
-// fill it, flushes it unless `flush` is false and closes it. A failure removes the staging file
-// again.
+// Creates the target's staging file with the permission bits of what it replaces, lets
+// `write_body` fill it, flushes it unless `flush` is false and closes it. A failure removes the
+// staging file again.
 template <typename WriteBody>
-WriteStatus Stage(const std::string& path, const Existing& existing, bool flush,
+WriteStatus Stage(const Target& target, const Existing& existing, bool flush,
                   WriteBody&& write_body) {
+  const std::string& path = target.path;
   const std::string staging = StagingPath(path);
   int fd = -1;
-  BodyFailure failure{disk::CreateForWriting(staging, existing.mode, &fd),
+  BodyFailure failure{disk::CreateForWritingAt(target.folder_fd, target.staging_name(), staging,
+                                               existing.mode, &fd),
                       "cannot create a file beside it"};
   if (failure.error == 0) {
     failure = write_body(fd);
@@ -98,26 +111,33 @@ WriteStatus StageFile(const std::string& path, std::string_view bytes, bool flus
   struct stat old;
   Existing existing;
   if (::stat(path.c_str(), &old) == 0) existing = {true, old.st_mode & 07777u};
-  return Stage(path, existing, flush, [&](int fd) { return WriteBytes(fd, bytes); });
+  return Stage({path, AT_FDCWD, path}, existing, flush,
+               [&](int fd) { return WriteBytes(fd, bytes); });
 }
 
 namespace {
 
 // Checks `path`, has `stage` write its staging file (flushed unless flushing is deferred) and
-// renames it into place, holding the folder's lock throughout (taken here unless the caller
-// holds it). The lock opens the folder, which is all the check its folder needs.
+// renames it into place, holding the folder's lock throughout: `held`, the caller's, or one taken
+// here. The lock opens the folder, which is all the check its folder needs, and the file is
+// named relative to it.
 template <typename StageIt>
-WriteStatus Replace(const std::string& path, bool locked_by_caller, StageIt&& stage) {
+WriteStatus Replace(const std::string& path, const FolderLock* held, StageIt&& stage) {
   const std::string folder = FolderPart(path);
-  FolderLock lock;
-  if (int error = locked_by_caller ? 0 : lock.Acquire(folder, FolderLock::Mode::kExclusive)) {
-    return WriteStatus::Failure(path, "cannot lock its folder", error);
+  FolderLock own;
+  if (held == nullptr) {
+    if (int error = own.Acquire(folder, FolderLock::Mode::kExclusive)) {
+      return WriteStatus::Failure(path, "cannot lock its folder", error);
+    }
+    held = &own;
   }
+  const Target target{path, held->fd(), path.substr(folder.size())};
   Existing existing;
-  if (WriteStatus check = CheckTarget(path, &existing); !check.ok()) return check;
+  if (WriteStatus check = CheckTarget(target, &existing); !check.ok()) return check;
   const bool flush = !flush_deferred;
-  if (WriteStatus staged = stage(existing, flush); !staged.ok()) return staged;
-  if (int error = disk::Rename(StagingPath(path), path)) {
+  if (WriteStatus staged = stage(target, existing, flush); !staged.ok()) return staged;
+  if (int error = disk::RenameAt(target.folder_fd, target.staging_name(), target.name,
+                                 StagingPath(path), path)) {
     disk::Remove(StagingPath(path));
     return WriteStatus::Failure(path, "cannot rename the new file into place", error);
   }
@@ -139,19 +159,19 @@ BodyFailure CopyBody(int source_fd, const std::string& source, int fd) {
   return {};
 }
 
-WriteStatus WriteFile(const std::string& path, std::string_view bytes, bool locked_by_caller) {
-  return Replace(path, locked_by_caller, [&](const Existing& existing, bool flush) {
-    return Stage(path, existing, flush, [&](int fd) { return WriteBytes(fd, bytes); });
+WriteStatus WriteFile(const std::string& path, std::string_view bytes, const FolderLock* held) {
+  return Replace(path, held, [&](const Target& target, const Existing& existing, bool flush) {
+    return Stage(target, existing, flush, [&](int fd) { return WriteBytes(fd, bytes); });
   });
 }
 
 WriteStatus CopyFile(const std::string& source, const std::string& destination,
-                     bool locked_by_caller) {
+                     const FolderLock* held) {
   const int source_fd = ::open(source.c_str(), O_RDONLY | O_CLOEXEC);
   if (source_fd < 0) return WriteStatus::Failure(source, "cannot be read", errno);
   WriteStatus status =
-      Replace(destination, locked_by_caller, [&](const Existing& existing, bool flush) {
-        return Stage(destination, existing, flush,
+      Replace(destination, held, [&](const Target& target, const Existing& existing, bool flush) {
+        return Stage(target, existing, flush,
                      [&](int fd) { return CopyBody(source_fd, source, fd); });
       });
   ::close(source_fd);
@@ -161,19 +181,21 @@ WriteStatus CopyFile(const std::string& source, const std::string& destination,
 }  // namespace
 
 WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes) {
-  return WriteFile(path, bytes, false);
+  return WriteFile(path, bytes, nullptr);
 }
 
 WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination) {
-  return CopyFile(source, destination, false);
+  return CopyFile(source, destination, nullptr);
 }
 
-WriteStatus WriteFileInLockedFolder(const std::string& path, std::string_view bytes) {
-  return WriteFile(path, bytes, true);
+WriteStatus WriteFileInLockedFolder(const FolderLock& lock, const std::string& path,
+                                    std::string_view bytes) {
+  return WriteFile(path, bytes, &lock);
 }
 
-WriteStatus CopyFileInLockedFolder(const std::string& source, const std::string& destination) {
-  return CopyFile(source, destination, true);
+WriteStatus CopyFileInLockedFolder(const FolderLock& lock, const std::string& source,
+                                   const std::string& destination) {
+  return CopyFile(source, destination, &lock);
 }
 
 bool FlushesDeferred() { return flush_deferred; }

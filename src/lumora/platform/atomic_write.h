@@ -5,6 +5,7 @@
 // take turns through its FolderLock.
 #pragma once
 
+#include <lumora/platform/folder_lock.h>
 #include <lumora/platform/write_status.h>
 
 #include <cstddef>
@@ -33,10 +34,12 @@ WriteStatus WriteFileAtomically(const std::string& path, std::string_view bytes)
 // an existing destination), a block at a time, with the source's permission bits.
 WriteStatus CopyFileAtomically(const std::string& source, const std::string& destination);
 
-// The same two for a caller that holds the exclusive FolderLock of the target's folder already
+// The same two for a caller that holds `lock`, the exclusive lock of the target's folder, already
 // (a writer of many files into a few folders, which keeps their locks between files).
-WriteStatus WriteFileInLockedFolder(const std::string& path, std::string_view bytes);
-WriteStatus CopyFileInLockedFolder(const std::string& source, const std::string& destination);
+WriteStatus WriteFileInLockedFolder(const FolderLock& lock, const std::string& path,
+                                    std::string_view bytes);
+WriteStatus CopyFileInLockedFolder(const FolderLock& lock, const std::string& source,
+                                   const std::string& destination);
 
 // Writing a whole new tree of many files (a sample, an export): while one lives on the calling
 // thread, WriteFileAtomically still stages and renames each file but leaves flushing to

@@ -13,10 +13,16 @@ using fault::Step;
 using fault::TakeStep;
 
 int CreateForWriting(const std::string& path, unsigned mode, int* fd) {
+  return CreateForWritingAt(AT_FDCWD, path, path, mode, fd);
+}
+
+int CreateForWritingAt(int folder_fd, const std::string& name, const std::string& path,
+                       unsigned mode, int* fd) {
   *fd = -1;
   ForgetKeptFile(path);
   if (int injected = TakeStep(Step::kCreate)) return injected;
-  *fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, static_cast<mode_t>(mode));
+  *fd = ::openat(folder_fd, name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC,
+                 static_cast<mode_t>(mode));
   return *fd < 0 ? errno : 0;
 }
 
@@ -67,10 +73,15 @@ int CloseFile(int fd) {
 }
 
 int Rename(const std::string& from, const std::string& to) {
+  return RenameAt(AT_FDCWD, from, to, from, to);
+}
+
+int RenameAt(int folder_fd, const std::string& from_name, const std::string& to_name,
+             const std::string& from, const std::string& to) {
   ForgetKeptFile(from);
   ForgetKeptFile(to);
   if (int injected = TakeStep(Step::kRename)) return injected;
-  return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+  return ::renameat(folder_fd, from_name.c_str(), folder_fd, to_name.c_str()) == 0 ? 0 : errno;
 }
 
 int Remove(const std::string& path) {

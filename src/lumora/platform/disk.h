@@ -13,6 +13,10 @@ namespace lumora::disk {
 // Creates (or truncates) `path` for writing with permission bits `mode` (before the umask);
 // the descriptor goes to *fd.
 int CreateForWriting(const std::string& path, unsigned mode, int* fd);
+// The same, and Rename below, for a file named `name` in the folder open as `folder_fd` (AT_FDCWD:
+// `name` is a path); `path` is the file's whole path, which the seams see.
+int CreateForWritingAt(int folder_fd, const std::string& name, const std::string& path,
+                       unsigned mode, int* fd);
 int WriteAll(int fd, const void* bytes, size_t n);
 int SyncFile(int fd);
 // Makes several written files durable: writeback of all of them is started first, then each
@@ -22,6 +26,8 @@ int SyncFiles(const std::vector<std::string>& paths, std::string* failed);
 // Closes fd in every case; answers the error close reported.
 int CloseFile(int fd);
 int Rename(const std::string& from, const std::string& to);
+int RenameAt(int folder_fd, const std::string& from_name, const std::string& to_name,
+             const std::string& from, const std::string& to);
 // A path that is already gone counts as removed.
 int Remove(const std::string& path);
 // Makes the folder's entries (names created, renamed, removed) durable.

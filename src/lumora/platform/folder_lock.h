@@ -25,6 +25,8 @@ class FolderLock {
   int Downgrade();
   void Release();
   bool held() const { return fd_ >= 0; }
+  // The open folder, for naming files relative to it while the lock is held; -1 otherwise.
+  int fd() const { return fd_; }
 
  private:
   int OpenFolder(const std::string& folder);

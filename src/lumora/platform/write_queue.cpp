@@ -51,10 +51,11 @@ std::vector<WriteQueue::Finished> WriteQueue::TakeFinished(bool all) {
   return std::exchange(finished_, {});
 }
 
-int WriteQueue::HoldFolder(const std::string& folder) {
+int WriteQueue::HoldFolder(const std::string& folder, const FolderLock** held) {
   for (auto it = held_.begin(); it != held_.end(); ++it) {
     if (it->folder != folder) continue;
     held_.splice(held_.begin(), held_, it);
+    *held = &held_.front().lock;
     return 0;
   }
   held_.emplace_front();
@@ -64,6 +65,7 @@ int WriteQueue::HoldFolder(const std::string& folder) {
     return error;
   }
   if (held_.size() > kMostFoldersHeld) held_.pop_back();
+  *held = &held_.front().lock;
   return 0;
 }
 
@@ -81,11 +83,12 @@ void WriteQueue::Run(bool deferred) {
     waiting_.pop_front();
     lock.unlock();
     WriteStatus status;
-    if (int error = HoldFolder(FolderOfPath(job.path))) {
+    const FolderLock* held = nullptr;
+    if (int error = HoldFolder(FolderOfPath(job.path), &held)) {
       status = WriteStatus::Failure(job.path, "cannot lock its folder", error);
     } else {
-      status = job.source.empty() ? WriteFileInLockedFolder(job.path, job.bytes)
-                                  : CopyFileInLockedFolder(job.source, job.path);
+      status = job.source.empty() ? WriteFileInLockedFolder(*held, job.path, job.bytes)
+                                  : CopyFileInLockedFolder(*held, job.source, job.path);
     }
     lock.lock();
     queued_bytes_ -= job.bytes.size();

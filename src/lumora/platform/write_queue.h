@@ -56,8 +56,9 @@ class WriteQueue {
 
   void Run(bool deferred);
   // Takes the exclusive lock of `folder` unless it is held already, letting go of the least
-  // recently used one past the limit; 0 or the errno. Only the writer thread holds folders.
-  int HoldFolder(const std::string& folder);
+  // recently used one past the limit; 0 or the errno, with the lock in *held. Only the writer
+  // thread holds folders.
+  int HoldFolder(const std::string& folder, const FolderLock** held);
 
   std::mutex mutex_;
   // Each side is woken only while it waits, so that a busy writer and a busy caller do not
