@@ -173,6 +173,26 @@ TEST_F(PackageExport, ProblemsInTheSourceAreReportedAndTheExportGoesOn) {
   EXPECT_EQ(SourceRows({1}).size(), 3u);
 }
 
+TEST_F(PackageExport, ReportLinesComeInRowOrderWhenTheWritesFinishLater) {
+  ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
+  // Every copy fails (a folder stands where each file goes) and one resource cannot be decoded:
+  // each row's failed copy is said before its decoding problem and before the next row's,
+  // although the copies are written on a second thread and found failed only afterwards.
+  const std::string broken = source() + "D001/" + ExportResourcePath("", 1005, 0x100001);
+  fs::resize_file(broken, 10);
+  std::string expected;
+  for (const auto& [package, type, id] : SourceRows({1})) {
+    const std::string from = source() + "D001/" + ExportResourcePath("", type, id);
+    if (!fs::exists(from)) continue;
+    fs::create_directories(exportFolder() + ExportResourcePath("", type, id));
+    expected += "Can not copy file: " + from + "\n";
+    if (from == broken) expected += "Can not open file: " + from + "\n";
+  }
+  ASSERT_NE(expected.find("Can not open file"), std::string::npos);
+  EXPECT_FALSE(Export({1}));
+  EXPECT_EQ(report.substr(0, expected.size()), expected);
+}
+
 TEST_F(PackageExport, AReportThatHoldsTextOnEntryMakesTheExportAnswerFalse) {
   ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
   report = "earlier\n";

@@ -1,6 +1,7 @@
 #include <lumora/platform/file.h>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <string>
@@ -59,6 +60,26 @@ TEST(File, FoldersAndMissingFilesDoNotOpen) {
   EXPECT_FALSE(file.IsOpen());
   EXPECT_EQ(file.Position(), 0u);
   EXPECT_EQ(file.Size(), 0u);
+}
+
+TEST(ReadWholeFile, ReadsRegularFilesOnlyAndNeverWaits) {
+  testing::TempDir dir;
+  std::string bytes = "left over";
+  const std::string body("ARS\0body", 8);
+  EXPECT_EQ(ReadWholeFile(dir.Write("a.ars", body), 64, bytes), WholeFile::kRead);
+  EXPECT_EQ(bytes, body);
+  EXPECT_EQ(ReadWholeFile(dir.Write("empty.ars", ""), 64, bytes), WholeFile::kRead);
+  EXPECT_EQ(bytes, "");
+  // What is not a regular file counts as missing: a folder, and a pipe, which a plain open
+  // would wait on for a writer.
+  EXPECT_EQ(ReadWholeFile(dir.path() + "none.ars", 64, bytes), WholeFile::kMissing);
+  EXPECT_EQ(ReadWholeFile(dir.path() + "a.ars/below", 64, bytes), WholeFile::kMissing);
+  EXPECT_EQ(ReadWholeFile(dir.path(), 64, bytes), WholeFile::kMissing);
+  ASSERT_EQ(::mkfifo((dir.path() + "pipe.ars").c_str(), 0600), 0);
+  EXPECT_EQ(ReadWholeFile(dir.path() + "pipe.ars", 64, bytes), WholeFile::kMissing);
+  EXPECT_EQ(ReadWholeFile(dir.Write("big.ars", std::string(65, 'x')), 64, bytes),
+            WholeFile::kTooLarge);
+  EXPECT_EQ(bytes, "");
 }
 
 }  // namespace
