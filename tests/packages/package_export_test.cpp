@@ -193,6 +193,22 @@ TEST_F(PackageExport, ReportLinesComeInRowOrderWhenTheWritesFinishLater) {
   EXPECT_EQ(report.substr(0, expected.size()), expected);
 }
 
+TEST_F(PackageExport, NothingIsWrittenOutsideTheDestinationWhateverItsContentIniSays) {
+  ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
+  const std::map<std::string, std::string> before = Snapshot(source());
+  PrepareDestination();
+  // The destination's section keeps its files in the source tree: the publishing pass, which
+  // writes beside the resources of every section, must pass it over.
+  std::ofstream(destination() + "Content.ini", std::ios::binary)
+      << "[001]\r\nDiscipline=1\r\nType=0\r\nParam=17\r\nLocal=" << source() << "D001/\r\n";
+  DWordArray packageIds;
+  packageIds.Add(4);
+  ByteArray qualities;
+  qualities.Add(1);
+  lmExportPackage(1, packageIds, qualities, destination().c_str(), nullptr, &report);
+  EXPECT_EQ(Snapshot(source()), before);
+}
+
 TEST_F(PackageExport, AReportThatHoldsTextOnEntryMakesTheExportAnswerFalse) {
   ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
   report = "earlier\n";

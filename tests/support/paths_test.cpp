@@ -2,6 +2,7 @@
 #include <lumora/support/paths.h>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -36,6 +37,22 @@ TEST(Paths, ExistenceDistinguishesFilesAndFolders) {
   EXPECT_TRUE(FolderExists(dir.path()));
   EXPECT_FALSE(FileExists(dir.path() + "missing"));
   EXPECT_FALSE(FolderExists(dir.path() + "missing"));
+}
+
+TEST(Paths, PathIsWithinResolvesDotsAndLinksBeforeComparing) {
+  testing::TempDir dir;
+  const std::string tree = dir.path() + "out/";
+  dir.Write("out/D001/r.ars", "x");
+  dir.Write("elsewhere/r.ars", "x");
+  ASSERT_EQ(::symlink((dir.path() + "elsewhere").c_str(), (tree + "link").c_str()), 0);
+  EXPECT_TRUE(PathIsWithin(tree, tree));
+  EXPECT_TRUE(PathIsWithin(tree + "D001/", tree));
+  EXPECT_TRUE(PathIsWithin(tree + "D002/not/yet/", tree));
+  EXPECT_FALSE(PathIsWithin(tree + "D001/../../elsewhere/", tree));
+  EXPECT_FALSE(PathIsWithin(tree + "link/", tree));
+  EXPECT_FALSE(PathIsWithin(dir.path() + "outside/", tree));
+  EXPECT_FALSE(PathIsWithin(dir.path() + "ou", tree));
+  EXPECT_FALSE(PathIsWithin("E:\\Shared\\", tree));
 }
 
 TEST(Paths, FirstExistingFileFollowsListOrder) {

@@ -74,11 +74,11 @@ std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
 
 // The export's publishing pass writes beside the resources of every discipline that DEST's
 // Content.ini lists, below their Local roots: one that points outside DEST would have files of
-// another tree rewritten. Such a destination is refused before anything is written.
+// another tree rewritten. The library passes such a discipline over; the tool refuses the
+// destination before anything is written, so that the export is never a partial one.
 void CheckLocalRoots(const std::string& destination) {
   ProfileFile ini;
   if (!ini.Load(WithBackslash(destination) + "Content.ini")) return;
-  const fs::path inside = fs::weakly_canonical(fs::absolute(destination));
   std::vector<std::string> sections = {"Common"};
   for (int n = 1; ini.FindSection(SectionName(n)); ++n) sections.push_back(SectionName(n));
   for (const std::string& section : sections) {
@@ -86,10 +86,7 @@ void CheckLocalRoots(const std::string& destination) {
     std::string local = ini.GetString("Local");
     if (local.empty()) continue;
     std::replace(local.begin(), local.end(), '\\', '/');
-    const fs::path root = fs::weakly_canonical(fs::absolute(local));
-    const auto [end, ignored] =
-        std::mismatch(inside.begin(), inside.end(), root.begin(), root.end());
-    if (end != inside.end()) {
+    if (!PathIsWithin(local, destination)) {
       throw CommandFailure(WithBackslash(destination) + "Content.ini: section " + section +
                            " has its files in " + local +
                            ", outside the destination, where the export would write");

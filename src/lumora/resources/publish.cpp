@@ -57,6 +57,9 @@ bool PublishDiscipline(const PublishingClass& publishing, ProfileFile& ini, cons
   const uint32_t id = ReadDisciplineId(ini);
   const std::string folder = DisciplineFolder(id);
   const std::string local_root = ValueOr(ini.GetString("Local"), root + folder);
+  // The pass writes inside the tree it is given and nowhere else: a discipline whose files lie
+  // outside it belongs to another tree.
+  if (!PathIsWithin(local_root, root)) return true;
   DWordArray numbers;
   if (!ReadResourceNumbers(publishing.type, common_local + folder, numbers)) return false;
   const ContentRequest request = PublishingRequest(id);

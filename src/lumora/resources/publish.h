@@ -2,7 +2,8 @@
 // it loads each resource of one type listed in the discipline's index, resolves its media
 // (which also expands every element that only refers to a stored type-1005 resource) and
 // writes the result beside the resource file: as ".arh", with its media paths emptied, which
-// resource loading prefers over the ".ars"; or as ".aro", which nothing reads.
+// resource loading prefers over the ".ars"; or as ".aro", which nothing reads. A discipline
+// whose Local root lies outside the tree is passed over: the pass writes nothing outside it.
 #pragma once
 
 #include <lumora/resources/exercise_resource.h>

@@ -9,7 +9,9 @@
 #include <dlfcn.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 namespace lumora {
 namespace {
@@ -79,6 +81,20 @@ std::string ModuleFolder(const void* address_in_module) {
     file = ExecutablePath();
   }
   return FolderOf(file);
+}
+
+bool PathIsWithin(const std::string& path, const std::string& folder) {
+  std::error_code error;
+  const auto resolved = [&error](const std::string& p) {
+    return std::filesystem::weakly_canonical(std::filesystem::absolute(p, error), error);
+  };
+  const std::filesystem::path inside = resolved(folder);
+  const std::filesystem::path candidate = resolved(path);
+  if (error) return false;
+  // A folder value's trailing separator leaves an empty last part, which anything matches.
+  auto end = inside.end();
+  if (end != inside.begin() && std::prev(end)->empty()) --end;
+  return std::mismatch(inside.begin(), end, candidate.begin(), candidate.end()).first == end;
 }
 
 std::string FolderOf(std::string_view path) {

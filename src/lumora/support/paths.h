@@ -29,6 +29,10 @@ bool CreateFolderPath(const std::string& path);
 // Folder of the module holding `address_in_module` (null: the host program), with separator.
 std::string ModuleFolder(const void* address_in_module = nullptr);
 
+// Whether `path` is `folder` or lies below it, both taken as absolute paths with links and "."
+// and ".." resolved as far as they exist.
+bool PathIsWithin(const std::string& path, const std::string& folder);
+
 std::string FolderOf(std::string_view path);
 std::string FileTitle(std::string_view path);
 std::string ExtensionOf(std::string_view path);
