@@ -14,12 +14,15 @@ struct DirCloser {
   void operator()(DIR* dir) const { ::closedir(dir); }
 };
 
-bool IsFolderEntry(const std::string& folder, const dirent& entry) {
-  if (entry.d_type == DT_DIR) return true;
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return false;
+FolderEntry EntryOf(const std::string& folder, const dirent& entry) {
+  FolderEntry found{entry.d_name, entry.d_type == DT_DIR, entry.d_type == DT_REG};
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return found;
   struct stat st;
-  return ::stat(WithBackslash(folder).append(entry.d_name).c_str(), &st) == 0 &&
-         S_ISDIR(st.st_mode);
+  if (::stat(WithBackslash(folder).append(entry.d_name).c_str(), &st) == 0) {
+    found.isFolder = S_ISDIR(st.st_mode);
+    found.isFile = S_ISREG(st.st_mode);
+  }
+  return found;
 }
 
 }  // namespace
@@ -31,7 +34,7 @@ std::optional<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
   while (const dirent* entry = ::readdir(dir.get())) {
     const std::string_view name = entry->d_name;
     if (name == "." || name == "..") continue;
-    entries.push_back({std::string(name), IsFolderEntry(folder, *entry)});
+    entries.push_back(EntryOf(folder, *entry));
   }
   std::sort(entries.begin(), entries.end(),
             [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });

@@ -11,7 +11,10 @@ namespace lumora {
 
 struct FolderEntry {
   std::string name;
-  bool isFolder = false;  // a symbolic link counts as what it points to
+  // A symbolic link counts as what it points to; an entry can be neither (a pipe, a dangling
+  // link).
+  bool isFolder = false;
+  bool isFile = false;  // a regular file
 };
 
 // The entries of `folder` other than "." and "..", sorted by name; nothing when the folder

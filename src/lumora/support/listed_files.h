@@ -4,7 +4,6 @@
 // FileListed reads each folder once and answers from its list.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -25,15 +24,11 @@ class ListedFiles {
   bool Contains(const std::string& path);
 
  private:
-  struct Folder {
-    std::unordered_set<std::string> files;
-    // Entries whose kind the list does not tell (links, and file systems that give no kind):
-    // asked of the file system when they are looked up.
-    std::unordered_set<std::string> unsure;
-  };
-  const Folder& Listed(const std::string& folder);
+  // The regular files of a folder (nothing for a folder that cannot be listed).
+  using Files = std::unordered_set<std::string>;
+  const Files& Listed(const std::string& folder);
 
-  std::unordered_map<std::string, std::unique_ptr<Folder>> folders_;
+  std::unordered_map<std::string, Files> folders_;
   ListedFiles* previous_;
 };
 
