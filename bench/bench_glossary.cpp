@@ -1,8 +1,8 @@
 #include "bench_glossary.h"
 
 #include <lumora/lexicon/glossary.h>
+#include <lumora/platform/utf8.h>
 #include <lumora/support/accent_table.h>
-#include <lumora/support/utf8.h>
 
 #include <stdlib.h>
 

@@ -5,8 +5,8 @@
 //   - one `findWords` query against `grep -F -c` over a file of the same written forms already
 //     reduced to plain lower case, one per line (target: at most twice the reference's time).
 #include <lumora/lexicon/glossary.h>
+#include <lumora/platform/utf8.h>
 #include <lumora/support/crc32.h>
-#include <lumora/support/utf8.h>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>

@@ -3,7 +3,7 @@
 #include <lumora/packages/database_connection.h>
 #include <lumora/packages/package_schema.h>
 #include <lumora/platform/com_apartment.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <filesystem>
 #include <fstream>

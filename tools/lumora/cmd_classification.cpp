@@ -1,8 +1,8 @@
 // `lumora classification ROOT [--json]`: the five classification tables that opening ROOT
 // loads, the grammatical categories with the label each interface language gets.
 #include <lumora/lumora.h>
+#include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>
-#include <lumora/support/utf8.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,8 +1,8 @@
 #include "content_args.h"
 
 #include <lumora/frame/library_state.h>
+#include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>
-#include <lumora/support/utf8.h>
 
 #include <cerrno>
 #include <cstdlib>

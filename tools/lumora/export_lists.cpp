@@ -1,7 +1,7 @@
 #include "export_lists.h"
 
+#include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>
-#include <lumora/support/utf8.h>
 
 #include <nlohmann/json.hpp>
 

@@ -3,7 +3,7 @@
 // headwords, the order and the letters back into the glossary folder.
 #include <lumora/lexicon/glossary_rebuild.h>
 #include <lumora/lumora.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,5 @@
 // One word of the glossary with its record, texts, sound, recognition data and links.
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,5 @@
 // Word lists by letter section: the text search, the filtered letter search and the letters.
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <nlohmann/json.hpp>
 

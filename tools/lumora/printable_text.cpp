@@ -1,7 +1,7 @@
 #include "printable_text.h"
 
 #include <lumora/platform/codepage.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <iostream>
 

@@ -3,8 +3,8 @@
 #include <lumora/packages/database_connection.h>
 #include <lumora/packages/package_schema.h>
 #include <lumora/platform/com_apartment.h>
+#include <lumora/platform/utf8.h>
 #include <lumora/resources/resource_id.h>
-#include <lumora/support/utf8.h>
 
 #include <array>
 #include <string_view>

@@ -9,6 +9,7 @@
 #include <lumora/resources/media_copy.h>
 #include <lumora/resources/publish.h>
 #include <lumora/resources/report_format.h>
+#include <lumora/support/content_ini.h>
 #include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
@@ -56,12 +57,6 @@ void ExportClassification(Classification& classification, const std::string& roo
   const bool saved = classification.save();
   classification.SetFolder(own);
   if (!saved) report += "Can not copy the set files for the classification.\n";
-}
-
-std::string LexiconFolder(const std::string& exportFolder, uint32_t number) {
-  char name[32];
-  std::snprintf(name, sizeof name, "C%04d%cr%07u", 0, kPathSeparator, number);
-  return exportFolder + name;
 }
 
 }  // namespace

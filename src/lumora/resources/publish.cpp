@@ -1,4 +1,3 @@
-#include <lumora/frame/content_config.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/media_path_clearing.h>
@@ -6,6 +5,7 @@
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/support/content_ini.h>
 #include <lumora/support/paths.h>
 #include <lumora/support/profile_file.h>
 

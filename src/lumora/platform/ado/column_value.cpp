@@ -1,6 +1,6 @@
 #include <lumora/platform/ado/column_value.h>
 #include <lumora/platform/ascii_text.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <limits>
 #include <string>

@@ -3,7 +3,7 @@
 #include <lumora/platform/ado/engine.h>
 #include <lumora/platform/ado/recordset.h>
 #include <lumora/platform/com_apartment.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <sqlite3.h>
 

@@ -1,6 +1,6 @@
 #include <lumora/platform/ado/error.h>
 #include <lumora/platform/ado/variant.h>
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <cerrno>
 #include <cmath>

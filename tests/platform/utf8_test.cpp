@@ -1,4 +1,4 @@
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <lumora/support/utf8.h>
+#include <lumora/platform/utf8.h>
 
 #include <unicode/ustring.h>
 #include <unicode/utf8.h>
