@@ -5,6 +5,7 @@
 // for a value that cannot be converted (a NULL integer, say), and the caller decides.
 #pragma once
 
+#include <lumora/packages/calendar_time.h>
 #include <lumora/platform/ado/command.h>
 #include <lumora/platform/ado/connection.h>
 #include <lumora/platform/ado/error.h>
@@ -18,9 +19,6 @@
 #include <vector>
 
 namespace lumora {
-
-// Seconds since 1 January 1970, in the 32 bits the package records keep.
-using CalendarTime = int32_t;
 
 // One record set handed out by OpenRecordset; the caller walks it (GetEOF, MoveNext) and
 // gives it back with CloseRecordset. Holders never given back are closed by Close.

@@ -3,7 +3,7 @@
 // are filled by the listing functions and owned by whoever made them.
 #pragma once
 
-#include <lumora/packages/database_connection.h>
+#include <lumora/packages/calendar_time.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/platform/object.h>
 #include <lumora/support/wide_text.h>
