@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 30
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 DEMO_DIR   ?= demo-content
 
-.PHONY: all deps build configure demo test asan-test bench fuzz format format-check clean
+.PHONY: all deps build configure demo test install asan-test bench fuzz format format-check clean
 
 all: build
 
@@ -30,6 +30,11 @@ build: configure
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+# The libraries, the headers a host needs, the tool, the CMake package and lumora.pc.
+PREFIX     ?= /usr/local
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
 
 demo: build
 	./tools/demo.sh $(BUILD)/lumora $(DEMO_DIR)
