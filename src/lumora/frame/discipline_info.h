@@ -7,6 +7,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class DisciplineInfo : public Object {
@@ -19,3 +22,5 @@ class DisciplineInfo : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

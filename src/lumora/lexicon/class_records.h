@@ -10,6 +10,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename Id>
@@ -44,3 +47,5 @@ using VerbTenseRecord = ClassRecord<uint32_t>;
 using SyntacticFunctionRecord = ClassRecord<uint16_t>;
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

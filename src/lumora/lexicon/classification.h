@@ -15,6 +15,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // Labels by id, made narrow in code page 1252.
@@ -83,3 +86,5 @@ class Classification {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -17,6 +17,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class CGloV6 : public CGloBase {
@@ -133,3 +136,5 @@ class CGloV6 : public CGloBase {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

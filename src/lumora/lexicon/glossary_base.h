@@ -14,6 +14,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Classification;
@@ -206,3 +209,5 @@ class CGloBase : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -9,6 +9,9 @@
 #include <cstdint>
 #include <tuple>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // The schema of a record fetched alone through an index: no file header says which layout it
@@ -139,3 +142,5 @@ struct GloFNLetterRecord {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class CGramV6 : public CGramBase {
@@ -107,3 +110,5 @@ class CGramV6 : public CGramBase {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

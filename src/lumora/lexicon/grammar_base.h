@@ -14,6 +14,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class CGramBase : public Object {
@@ -157,3 +160,5 @@ class CGramBase : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

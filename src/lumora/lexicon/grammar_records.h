@@ -10,6 +10,9 @@
 #include <string>
 #include <tuple>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // t_Gr_Points: one grammar point.
@@ -162,3 +165,5 @@ struct GrBubblesRecord {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -10,6 +10,9 @@
 #include <string>
 #include <string_view>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class RecordText {
@@ -64,3 +67,5 @@ class RecordText {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

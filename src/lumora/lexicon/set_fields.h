@@ -10,6 +10,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // u32 count of UTF-16 code units, then the units little-endian; no terminator.
@@ -26,3 +29,5 @@ void IoByteList(Archive& ar, ByteList& bytes);
 void IoFlag(Archive& ar, uint8_t& flag);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -16,6 +16,9 @@
 #include <type_traits>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename Record>
@@ -118,3 +121,5 @@ class SetTable {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -9,6 +9,9 @@
 #include <initializer_list>
 #include <type_traits>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename T>
@@ -117,3 +120,5 @@ struct ByteList : SmallList<uint8_t> {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

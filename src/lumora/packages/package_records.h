@@ -12,6 +12,9 @@
 #include <memory>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // A package; its identifier is its key in the PackageList.
@@ -68,3 +71,5 @@ class PackageResourceRecord : public Object {
 using PackageResourceList = KeyedTable<PackageResourceRecord>;
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

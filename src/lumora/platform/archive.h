@@ -12,6 +12,9 @@
 #include <stdexcept>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Stream;
@@ -117,3 +120,5 @@ class Archive {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

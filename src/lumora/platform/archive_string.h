@@ -10,6 +10,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Archive;
@@ -27,3 +30,5 @@ class StringArray : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

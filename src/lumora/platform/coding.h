@@ -3,6 +3,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 inline void EncodeU16(uint8_t* p, uint16_t v) {
@@ -25,3 +28,5 @@ inline uint32_t DecodeU32(const uint8_t* p) {
 }
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <optional>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename Keys, typename Key>
@@ -33,3 +36,5 @@ std::optional<uint32_t> FindKeyIndex(const Keys& keys, uint32_t n, Key key, bool
 }
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

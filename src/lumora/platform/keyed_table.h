@@ -22,6 +22,9 @@
 #include <optional>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename T>
@@ -144,3 +147,5 @@ class KeyedTable : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

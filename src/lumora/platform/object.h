@@ -2,6 +2,9 @@
 // Serialize that both stores and loads the same field sequence.
 #pragma once
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Archive;
@@ -19,3 +22,5 @@ class Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -6,6 +6,9 @@
 #include <cstdint>
 #include <functional>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Progress {
@@ -27,3 +30,5 @@ class Progress {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -12,6 +12,9 @@
 #include <cstring>
 #include <memory>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // How one element is laid out on disk. Integers are little-endian; records are raw bytes.
@@ -207,3 +210,5 @@ using RecordArray16 = TypedArray<Record16>;
 using RecordArray24 = TypedArray<Record24>;
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -3,6 +3,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 enum PathKind : uint32_t { kPathLocal = 0, kPathUrl = 1, kPathUnc = 2 };
@@ -17,3 +20,5 @@ struct ContentRequest {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

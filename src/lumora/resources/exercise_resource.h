@@ -13,6 +13,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 inline constexpr uint32_t kResourceMagic = 0x00535241;
@@ -59,3 +62,5 @@ class ExerciseResource : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -17,6 +17,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class GroupsIndex : public TypeIndex {
@@ -86,3 +89,5 @@ class PlainNumberIndex : public TypeIndex {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -13,6 +13,9 @@
 #include <optional>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class LanguageTexts : public Object {
@@ -44,3 +47,5 @@ class LanguageTexts : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -8,6 +8,9 @@
 #include <lumora/platform/typed_array.h>
 #include <lumora/support/wide_text.h>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class MarkedText : public CodePageText {
@@ -23,3 +26,5 @@ class MarkedText : public CodePageText {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

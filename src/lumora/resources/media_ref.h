@@ -10,6 +10,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 enum MediaKind : uint32_t { kMediaSound = 1, kMediaPicture = 2, kMediaVideo = 3 };
@@ -51,3 +54,5 @@ struct QualityOrder {
 QualityOrder QualityOrderOf(uint8_t selector);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

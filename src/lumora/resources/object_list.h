@@ -8,6 +8,9 @@
 #include <memory>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename T>
@@ -44,3 +47,5 @@ class ObjectList {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -12,6 +12,9 @@
 #include <optional>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class ResourceGroups : public Object {
@@ -42,3 +45,5 @@ class ResourceGroups : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

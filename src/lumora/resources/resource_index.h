@@ -11,6 +11,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class ResourceIndex {
@@ -32,3 +35,5 @@ class ResourceIndex {
 std::string IndexFilePath(const std::string& dataFolder, uint32_t type);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

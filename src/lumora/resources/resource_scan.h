@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 struct ScannedResource {
@@ -20,3 +23,5 @@ struct ScannedResource {
 std::vector<ScannedResource> ScanResourceFiles(const std::string& resource_root, uint32_t type);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -5,8 +5,13 @@
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/object_list.h>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 using TextList = ObjectList<MarkedText>;
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -11,6 +11,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type2000Entry : public Object {
@@ -36,3 +39,5 @@ class Type2000Index : public NumberListIndex<Type2000Entry> {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class TypeIndex : public Object {
@@ -24,3 +27,5 @@ class TypeIndex : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

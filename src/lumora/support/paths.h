@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Object;
@@ -59,3 +62,5 @@ std::string UniqueFileName(const char* extension = nullptr, const char* folder =
                            const char* prefix = nullptr);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -18,6 +18,9 @@
 #include <utility>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class WideText : public Object {
@@ -97,3 +100,5 @@ class CodePageText : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -15,6 +15,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class PracticeRecord : public Object {
@@ -38,3 +41,5 @@ class SentencePracticeResource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -11,6 +11,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 template <typename SentenceList>
@@ -41,3 +44,5 @@ bool VerifySentenceSounds(const SentenceList& sentences, const std::string& root
 }
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -5,6 +5,9 @@
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/media_ref.h>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class TextWithMedia : public Object {
@@ -20,3 +23,5 @@ class TextWithMedia : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -9,6 +9,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type1Resource : public ExerciseResource {
@@ -26,3 +29,5 @@ class Type1Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -14,6 +14,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type10Resource : public ExerciseResource {
@@ -37,3 +40,5 @@ class Type10Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -14,6 +14,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class VideoScript : public Object {
@@ -48,3 +51,5 @@ class Type1003Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -8,6 +8,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type1003Entry : public Object {
@@ -21,3 +24,5 @@ class Type1003Entry : public Object {
 using Type1003Index = NumberListIndex<Type1003Entry>;
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

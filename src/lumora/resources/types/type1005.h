@@ -17,6 +17,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 inline constexpr uint32_t kContentElementType = 1005;
@@ -49,3 +52,5 @@ class ContentElement : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

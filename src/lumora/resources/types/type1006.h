@@ -17,6 +17,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class CaptionedMedia : public Object {
@@ -56,3 +59,5 @@ class Type1006Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -16,6 +16,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 struct TranslatedText {
@@ -52,3 +55,5 @@ class Type1010Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

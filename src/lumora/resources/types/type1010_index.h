@@ -16,6 +16,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type1010Index : public TypeIndex {
@@ -36,3 +39,5 @@ class Type1010Index : public TypeIndex {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -6,6 +6,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type12Resource final : public SentencePracticeResource {
@@ -17,3 +20,5 @@ class Type12Resource final : public SentencePracticeResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

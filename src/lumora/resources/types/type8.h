@@ -16,6 +16,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // A link of the head to the video: kind 3, and the whole u32 at offset 8 equal to 1003 (a
@@ -59,3 +62,5 @@ class Type8Resource : public ExerciseResource {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop
