@@ -231,14 +231,28 @@ bool Ready(benchmark::State& state) {
   return true;
 }
 
-void ExportPackagesReference(benchmark::State& state) {
+// Times `run` (destination -> an error, or empty) once per iteration, each time in a new
+// destination made ready before and removed after, both outside the timed part.
+template <typename Run>
+void InFreshDestinations(benchmark::State& state, const char* name, Run run) {
   if (!Ready(state)) return;
   for (auto _ : state) {
     state.PauseTiming();
-    const std::string destination = Sample().destination("copies");
+    const std::string destination = Sample().destination(name);
     const bool fresh = FreshDestination(destination, Sample().section());
     state.ResumeTiming();
     if (!fresh) return state.SkipWithError("the destination cannot be made");
+    if (const std::string error = run(destination); !error.empty()) {
+      return state.SkipWithError(error.c_str());
+    }
+    state.PauseTiming();
+    RemoveDestination(destination);
+    state.ResumeTiming();
+  }
+}
+
+void ExportPackagesReference(benchmark::State& state) {
+  InFreshDestinations(state, "copies", [](const std::string& destination) {
     std::set<fs::path> folders;
     for (const CopiedFile& file : Sample().copies()) {
       const fs::path target = destination / file.relative;
@@ -247,28 +261,18 @@ void ExportPackagesReference(benchmark::State& state) {
       }
       fs::copy_file(file.source, target, fs::copy_options::overwrite_existing);
     }
-    state.PauseTiming();
-    RemoveDestination(destination);
-    state.ResumeTiming();
-  }
+    return std::string();
+  });
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Sample().copiedBytes()));
   state.counters["files"] = static_cast<double>(Sample().copies().size());
 }
 
 void ExportPackages(benchmark::State& state) {
-  if (!Ready(state)) return;
-  for (auto _ : state) {
-    state.PauseTiming();
-    const std::string destination = Sample().destination("export");
-    const bool fresh = FreshDestination(destination, Sample().section());
-    state.ResumeTiming();
-    if (!fresh) return state.SkipWithError("the destination cannot be made");
+  InFreshDestinations(state, "export", [](const std::string& destination) {
     std::string report;
-    if (!Sample().Export(destination, report)) return state.SkipWithError(report.c_str());
-    state.PauseTiming();
-    RemoveDestination(destination);
-    state.ResumeTiming();
-  }
+    const bool exported = Sample().Export(destination, report);
+    return exported ? std::string() : report.empty() ? std::string("the export failed") : report;
+  });
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Sample().copiedBytes()));
   state.counters["files"] = static_cast<double>(Sample().copies().size());
   state.counters["generated"] = Sample().generated();
@@ -335,41 +339,24 @@ bool InsertRows(const std::string& path) {
 }
 
 void CustomExportReference(benchmark::State& state) {
-  if (!Ready(state)) return;
-  for (auto _ : state) {
-    state.PauseTiming();
-    const std::string destination = Sample().destination("rows");
-    const bool fresh = FreshDestination(destination, Sample().section());
-    state.ResumeTiming();
-    if (!fresh) return state.SkipWithError("the destination cannot be made");
-    if (!InsertRows(destination + kExportFolder + "/Content.mdb"))
-      return state.SkipWithError("the rows were not inserted");
-    state.PauseTiming();
-    RemoveDestination(destination);
-    state.ResumeTiming();
-  }
+  InFreshDestinations(state, "rows", [](const std::string& destination) {
+    return InsertRows(destination + kExportFolder + "/Content.mdb")
+               ? std::string()
+               : std::string("the rows were not inserted");
+  });
   state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * kCustomRows));
 }
 
 void CustomExport(benchmark::State& state) {
-  if (!Ready(state)) return;
   const CustomLists& lists = Lists();
-  for (auto _ : state) {
-    state.PauseTiming();
-    const std::string destination = Sample().destination("custom");
-    const bool fresh = FreshDestination(destination, Sample().section());
-    state.ResumeTiming();
-    if (!fresh) return state.SkipWithError("the destination cannot be made");
+  InFreshDestinations(state, "custom", [&lists](const std::string& destination) {
     std::string report;
-    if (!lmExportCustomizedPackage(&lists.packages, &lists.translations, &lists.rows,
-                                   &lists.packageIds, kDiscipline, &lists.quality,
-                                   destination.c_str(), nullptr, &report, 0)) {
-      return state.SkipWithError(report.c_str());
-    }
-    state.PauseTiming();
-    RemoveDestination(destination);
-    state.ResumeTiming();
-  }
+    const bool exported = lmExportCustomizedPackage(
+        &lists.packages, &lists.translations, &lists.rows, &lists.packageIds, kDiscipline,
+        &lists.quality, destination.c_str(), nullptr, &report, 0);
+    // A false answer with nothing in the report would still be a failure.
+    return exported ? std::string() : report.empty() ? std::string("the export failed") : report;
+  });
   state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * kCustomRows));
 }
 

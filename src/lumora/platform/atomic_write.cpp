@@ -13,12 +13,12 @@ namespace {
 
 thread_local bool flush_deferred = false;
 
+}  // namespace
+
 std::string FolderPart(const std::string& path) {
   const size_t slash = path.find_last_of('/');
   return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
 }
-
-}  // namespace
 
 std::string StagingPath(const std::string& path) { return path + std::string(kStagingSuffix); }
 

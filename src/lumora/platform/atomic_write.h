@@ -18,6 +18,10 @@ inline constexpr std::string_view kStagingSuffix = ".lumora-new";
 
 std::string StagingPath(const std::string& path);
 
+// The folder of `path` with its separator (empty for a bare name): the folder whose lock a
+// write of `path` holds.
+std::string FolderPart(const std::string& path);
+
 // Whether `path` can be replaced: its folder exists, and the file, when it exists, is a regular
 // file that is not marked read-only (no owner write bit, as a read-only attribute would say).
 WriteStatus CheckReplaceable(const std::string& path);

@@ -5,15 +5,6 @@
 #include <utility>
 
 namespace lumora {
-namespace {
-
-std::string FolderOfPath(const std::string& path) {
-  const size_t slash = path.find_last_of('/');
-  return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
-}
-
-}  // namespace
-
 WriteQueue::WriteQueue(size_t most_bytes)
     : most_bytes_(most_bytes), writer_([this, deferred = FlushesDeferred()] { Run(deferred); }) {}
 
@@ -84,7 +75,7 @@ void WriteQueue::Run(bool deferred) {
     lock.unlock();
     WriteStatus status;
     const FolderLock* held = nullptr;
-    if (int error = HoldFolder(FolderOfPath(job.path), &held)) {
+    if (int error = HoldFolder(FolderPart(job.path), &held)) {
       status = WriteStatus::Failure(job.path, "cannot lock its folder", error);
     } else {
       status = job.source.empty() ? WriteFileInLockedFolder(*held, job.path, job.bytes)
