@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-#include "sample/sample_content.h"
+#include <lumora/sample/sample_content.h>
 
 namespace {
 

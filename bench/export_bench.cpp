@@ -37,7 +37,7 @@
 #include <utility>
 #include <vector>
 
-#include "sample/sample_content.h"
+#include <lumora/sample/sample_content.h>
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <lumora/support/language_table.h>
 
+#include <lumora/sample/sample_classes.h>
 #include "frame/content_tree.h"
-#include "sample/sample_classes.h"
 
 namespace lumora {
 namespace {

@@ -17,9 +17,9 @@
 #include <memory>
 #include <string>
 
+#include <lumora/sample/sample_content.h>
 #include "fixtures/temp_dir.h"
 #include "frame/content_tree.h"
-#include "sample/sample_content.h"
 
 namespace lumora {
 namespace {

@@ -21,9 +21,9 @@
 #include <utility>
 #include <vector>
 
+#include <lumora/sample/sample_content.h>
 #include "fixtures/temp_dir.h"
 #include "frame/content_tree.h"
-#include "sample/sample_content.h"
 
 namespace lumora {
 namespace {

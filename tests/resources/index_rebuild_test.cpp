@@ -12,9 +12,9 @@
 #include <filesystem>
 #include <vector>
 
+#include <lumora/sample/sample_content.h>
 #include "fixtures/fault_sweep.h"
 #include "fixtures/temp_dir.h"
-#include "sample/sample_content.h"
 
 namespace lumora {
 namespace {

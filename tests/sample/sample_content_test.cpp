@@ -1,4 +1,4 @@
-#include "sample/sample_content.h"
+#include <lumora/sample/sample_content.h>
 
 #include <lumora/lumora.h>
 #include <lumora/resources/index_forms.h>

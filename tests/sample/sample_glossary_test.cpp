@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include <lumora/sample/sample_content.h>
 #include "frame/content_tree.h"
-#include "sample/sample_content.h"
 
 namespace lumora {
 namespace {

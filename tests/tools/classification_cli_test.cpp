@@ -5,9 +5,9 @@
 #include <map>
 #include <string>
 
+#include <lumora/sample/sample_classes.h>
 #include "fixtures/run_cli.h"
 #include "fixtures/temp_dir.h"
-#include "sample/sample_classes.h"
 
 namespace lumora::testing {
 namespace {

@@ -4,7 +4,7 @@
 // Content.mdb and, when DEST has none, a Content.ini whose one section describes the exported
 // discipline, so that the export is a content root of its own.
 #include <lumora/lumora.h>
-#include <lumora/packages/package_export.h>
+#include <lumora/packages/export_folder.h>
 #include <lumora/platform/atomic_write.h>
 #include <lumora/support/paths.h>
 #include <lumora/support/profile_file.h>

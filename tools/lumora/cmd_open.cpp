@@ -1,5 +1,6 @@
 // `lumora open ROOT [--filter ID] [--json]`: what opening a content root registers.
-#include <lumora/frame/library_state.h>
+#include <lumora/frame/opened_disciplines.h>
+#include <lumora/lumora.h>
 
 #include <nlohmann/json.hpp>
 
@@ -19,12 +20,13 @@ struct Options {
   bool json = false;
 };
 
-nlohmann::ordered_json DisciplineJson(uint32_t id, const Discipline& d) {
+nlohmann::ordered_json DisciplineJson(const OpenedDiscipline& d) {
   nlohmann::ordered_json types = nlohmann::ordered_json::array();
-  if (d.resourceIndex) {
-    for (uint32_t type : d.resourceIndex->types()) types.push_back(type);
+  const ContentRequest request = RequestFor(d.id);
+  if (const ResourceIndex* index = lmGetResourceInfos(&request)) {
+    for (uint32_t type : index->types()) types.push_back(type);
   }
-  return {{"id", id},
+  return {{"id", d.id},
           {"localRoot", PrintableText(d.localRoot, kWindowsAnsi)},
           {"uncRoot", PrintableText(d.uncRoot, kWindowsAnsi)},
           {"urlRoot", PrintableText(d.urlRoot, kWindowsAnsi)},
@@ -34,11 +36,9 @@ nlohmann::ordered_json DisciplineJson(uint32_t id, const Discipline& d) {
 
 void Run(const Options& options) {
   OpenedContent content(options.root, options.filter);
-  const KeyedTable<Discipline>& registry = Library().registry;
   nlohmann::ordered_json disciplines = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < registry.size(); ++i) {
-    disciplines.push_back(DisciplineJson(registry.KeyAt(i), *registry.ObjectAt(i)));
-  }
+  for (const OpenedDiscipline& d : ListOpenedDisciplines())
+    disciplines.push_back(DisciplineJson(d));
   if (options.json) {
     PrintJson({{"ok", content.ok()}, {"disciplines", disciplines}});
   } else {

@@ -1,7 +1,6 @@
 // `lumora rebuild-index ROOT -d ID [--type T] [--out DIR | --in-place] [--json]`: rescans a
 // discipline's resource files and writes its index files anew. Overwriting the discipline's own
 // index files takes --in-place, so that a trial run never replaces them by accident.
-#include <lumora/frame/library_state.h>
 #include <lumora/resources/index_rebuild.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
@@ -31,7 +30,7 @@ struct Options {
   bool json = false;
 };
 
-std::string IndexFolder(const Options& options, const Discipline& discipline) {
+std::string IndexFolder(const Options& options, const OpenedDiscipline& discipline) {
   if (options.out.empty()) return discipline.dataFolder;
   std::string folder = options.out;
   if (folder.back() != '/') folder.push_back('/');
@@ -51,7 +50,7 @@ nlohmann::ordered_json Described(uint32_t type, bool built, const std::string& f
 }
 
 // In place, every index file is replaced in one commit; elsewhere each is written on its own.
-std::vector<TypeRebuild> RebuildAll(const Options& options, const Discipline& discipline,
+std::vector<TypeRebuild> RebuildAll(const Options& options, const OpenedDiscipline& discipline,
                                     const std::string& folder) {
   std::vector<uint32_t> types;
   for (uint32_t type : kExerciseTypes) {
@@ -74,8 +73,7 @@ void Run(const Options& options) {
     throw CommandFailure("not an exercise type: " + std::to_string(*options.type));
   }
   OpenedContent content(options.root, 0);
-  RequestFor(options.discipline);
-  const Discipline& discipline = *FindDiscipline(options.discipline);
+  const OpenedDiscipline discipline = DisciplineFor(options.discipline);
   const std::string folder = IndexFolder(options, discipline);
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();

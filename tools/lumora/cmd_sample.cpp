@@ -1,8 +1,8 @@
 // `lumora sample DIR [--scale N]`: writes a small but realistic content root, the demo's content
 // and the easiest way to see the folder tree and every file format.
+#include <lumora/sample/sample_content.h>
 #include "commands.h"
 #include "printable_text.h"
-#include "sample/sample_content.h"
 
 #include <lumora/support/paths.h>
 

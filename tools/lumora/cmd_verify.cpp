@@ -1,6 +1,5 @@
 // `lumora verify ROOT -d ID [--type T] [--quality 1,2,3] [--json]`: checks that every resource a
 // discipline's index lists finds its media and the resource files it refers to.
-#include <lumora/frame/library_state.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 
@@ -102,15 +101,16 @@ void Run(const Options& options) {
   const ByteArray quality = ParseQualityFolders(options.quality);
   OpenedContent content(options.root, 0);
   const ContentRequest request = RequestFor(options.discipline);
-  const Discipline& discipline = *FindDiscipline(options.discipline);
-  if (!discipline.resourceIndex) throw CommandFailure("discipline has no resource index");
+  const OpenedDiscipline discipline = DisciplineFor(options.discipline);
+  const ResourceIndex* index = lmGetResourceInfos(&request);
+  if (index == nullptr) throw CommandFailure("discipline has no resource index");
   const std::vector<uint32_t> courses = CoursesBelow(discipline.localRoot);
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();
   uint32_t failures = 0;
-  for (uint32_t type : discipline.resourceIndex->types()) {
+  for (uint32_t type : index->types()) {
     if (options.type && *options.type != type) continue;
-    const auto indexed = NumbersOf(*discipline.resourceIndex->FindType(type));
+    const auto indexed = NumbersOf(*index->FindType(type));
     if (!indexed) continue;
     for (uint32_t id : ResourceIdsOf(discipline.localRoot, type, courses, indexed->numbers)) {
       results.push_back(Check(request, discipline.localRoot, quality, type, id));

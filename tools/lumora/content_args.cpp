@@ -1,6 +1,6 @@
 #include "content_args.h"
 
-#include <lumora/frame/library_state.h>
+#include <lumora/frame/opened_disciplines.h>
 #include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>
 
@@ -70,10 +70,16 @@ const char* PathKindName(uint32_t path_kind) {
 OpenedContent::OpenedContent(const std::string& root, uint32_t filter, bool databases)
     : ok_(databases ? lmOpen_Database(root.c_str(), filter) : lmOpen(root.c_str(), filter)) {}
 
-ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
-  if (FindDiscipline(id) == nullptr) {
+OpenedDiscipline DisciplineFor(uint32_t id) {
+  OpenedDiscipline discipline;
+  if (!FindOpenedDiscipline(id, &discipline)) {
     throw CommandFailure("no open discipline with identifier " + std::to_string(id));
   }
+  return discipline;
+}
+
+ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
+  DisciplineFor(id);
   ContentRequest request;
   request.disciplineId = id;
   request.pathKind = path_kind;
@@ -82,8 +88,9 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
 }
 
 uint32_t TextCodePage(uint32_t id) {
-  const Discipline* discipline = FindDiscipline(id);
-  return discipline ? CodePageOf(static_cast<uint8_t>(discipline->info.Param)) : kWindowsAnsi;
+  OpenedDiscipline discipline;
+  return FindOpenedDiscipline(id, &discipline) ? CodePageOf(static_cast<uint8_t>(discipline.param))
+                                               : kWindowsAnsi;
 }
 
 std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }

@@ -2,6 +2,7 @@
 // pair and the JSON forms of the library's small records.
 #pragma once
 
+#include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
 #include <lumora/support/wide_text.h>
 
@@ -45,6 +46,8 @@ class OpenedContent {
   bool ok_;
 };
 
+// Open discipline `id`; throws a CommandFailure when none is open.
+OpenedDiscipline DisciplineFor(uint32_t id);
 // A request for discipline `id`; throws when no open discipline has that identifier.
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
 

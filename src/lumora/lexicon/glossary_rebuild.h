@@ -5,6 +5,9 @@
 #include <lumora/lexicon/glossary.h>
 #include <lumora/platform/write_status.h>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 // Replaces `sorted` and `letters` and gives every headword (kind 1) the letter section it now
@@ -17,3 +20,5 @@ bool rebuildSortAndLetters(CGloV6& g);
 WriteStatus SaveSortAndLetters(CGloV6& g);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -11,6 +11,9 @@
 #include <string_view>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 enum class SetChecksum { kGood, kBad, kUnlisted };
@@ -41,3 +44,5 @@ SetFileCheck CheckSetFile(const std::string& path);
 std::optional<std::vector<SetFileCheck>> CheckSetFolder(const std::string& folder);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

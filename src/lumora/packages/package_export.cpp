@@ -1,4 +1,5 @@
 #include <lumora/lexicon/classification.h>
+#include <lumora/packages/export_folder.h>
 #include <lumora/packages/export_resources.h>
 #include <lumora/packages/export_rows.h>
 #include <lumora/packages/package_export.h>
@@ -60,12 +61,6 @@ void ExportClassification(Classification& classification, const std::string& roo
 }
 
 }  // namespace
-
-std::string ExportFolderOf(const std::string& destinationRoot, uint32_t disciplineId) {
-  char name[32];
-  std::snprintf(name, sizeof name, "D%03u%c", disciplineId, kPathSeparator);
-  return WithBackslash(destinationRoot) + name;
-}
 
 bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const ExportLists& lists,
                           const ExportSource& source, const ByteArray& qualityFolders,

@@ -69,8 +69,4 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
                           const std::string& destinationRoot, const Progress* progress,
                           std::string& report, bool withDiagnosis);
 
-// Format("%sD%03d/", destinationRoot, disciplineId), the root given a separator when it lacks
-// one.
-std::string ExportFolderOf(const std::string& destinationRoot, uint32_t disciplineId);
-
 }  // namespace lumora

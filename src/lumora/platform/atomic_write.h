@@ -12,6 +12,9 @@
 #include <string>
 #include <string_view>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 inline constexpr std::string_view kStagingSuffix = ".lumora-new";
@@ -69,3 +72,5 @@ class DeferredFlush {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -15,6 +15,9 @@
 #include <string>
 #include <string_view>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class CodePageStream {
@@ -37,3 +40,5 @@ class CodePageStream {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -6,6 +6,9 @@
 
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class FolderLock {
@@ -36,3 +39,5 @@ class FolderLock {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

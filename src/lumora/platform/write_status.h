@@ -5,6 +5,9 @@
 
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class WriteStatus {
@@ -31,3 +34,5 @@ const WriteStatus& LastWriteFailure();
 void ClearWriteFailure();
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -8,6 +8,9 @@
 
 #include <cstdint>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class ContextCode {
@@ -58,3 +61,5 @@ class ContextCode {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

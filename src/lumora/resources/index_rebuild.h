@@ -9,6 +9,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 struct TypeRebuild {
@@ -25,3 +28,5 @@ WriteStatus RebuildIndexesInPlace(const std::string& resource_root, const std::s
                                   std::vector<TypeRebuild>& results);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -11,6 +11,9 @@
 #include <memory>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class TextContext : public Object {
@@ -36,3 +39,5 @@ class TextContext : public Object {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

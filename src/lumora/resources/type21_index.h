@@ -13,6 +13,9 @@
 #include <cstdint>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class Type21Index : public TypeIndex {
@@ -34,3 +37,5 @@ class Type21Index : public TypeIndex {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -10,6 +10,9 @@
 #include <memory>
 #include <string>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 inline constexpr std::array<uint32_t, 26> kExerciseTypes = {
@@ -37,3 +40,5 @@ bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -19,6 +19,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 struct LogSlot {
@@ -86,3 +89,5 @@ struct InternalLogSettings {
 InternalLogSettings& LogSettings();
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <string_view>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 struct LanguageInfo {
@@ -31,3 +34,5 @@ uint16_t LangIdOf(unsigned number);
 uint8_t NumberOfCode(std::string_view text);
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

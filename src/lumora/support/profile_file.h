@@ -8,6 +8,9 @@
 #include <string>
 #include <vector>
 
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
 namespace lumora {
 
 class ProfileFile {
@@ -35,3 +38,5 @@ class ProfileFile {
 };
 
 }  // namespace lumora
+
+#pragma GCC visibility pop

@@ -9,7 +9,7 @@
 
 #include <string_view>
 
-#include "sample/sample_phrases.h"
+#include <lumora/sample/sample_phrases.h>
 
 namespace lumora::sample {
 

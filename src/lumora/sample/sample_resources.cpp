@@ -1,4 +1,4 @@
-#include "sample/sample_resources.h"
+#include <lumora/sample/sample_resources.h>
 
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
@@ -6,9 +6,9 @@
 
 #include <cstdint>
 
-#include "sample/sample_builders.h"
-#include "sample/sample_files.h"
-#include "sample/sample_layout.h"
+#include <lumora/sample/sample_builders.h>
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_layout.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_glossary_words.h"
+#include <lumora/sample/sample_glossary_words.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_files.h"
+#include <lumora/sample/sample_files.h>
 
 #include <lumora/platform/atomic_write.h>
 #include <lumora/resources/exercise_resource.h>

@@ -10,9 +10,9 @@
 
 #include <memory>
 
-#include "sample/sample_exercise_types.h"
-#include "sample/sample_texts.h"
-#include "sample/sample_type_files.h"
+#include <lumora/sample/sample_exercise_types.h>
+#include <lumora/sample/sample_texts.h>
+#include <lumora/sample/sample_type_files.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_index.h"
+#include <lumora/sample/sample_index.h>
 
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/resource_index.h>
@@ -10,9 +10,9 @@
 #include <memory>
 #include <string_view>
 
-#include "sample/sample_files.h"
-#include "sample/sample_layout.h"
-#include "sample/sample_phrases.h"
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_layout.h>
+#include <lumora/sample/sample_phrases.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_texts.h"
+#include <lumora/sample/sample_texts.h>
 
 #include <memory>
 

@@ -4,7 +4,10 @@
 
 #include <string>
 
-#include "sample/sample_layout.h"
+#include <lumora/sample/sample_layout.h>
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
 
 namespace lumora::sample {
 
@@ -20,3 +23,5 @@ struct SampleOptions {
 bool WriteSampleContent(const std::string& dir, const SampleOptions& options, std::string* error);
 
 }  // namespace lumora::sample
+
+#pragma GCC visibility pop

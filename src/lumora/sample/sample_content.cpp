@@ -1,20 +1,20 @@
-#include "sample/sample_content.h"
+#include <lumora/sample/sample_content.h>
 
 #include <lumora/platform/atomic_write.h>
 
 #include <lumora/support/paths.h>
 
-#include "sample/sample_classes.h"
-#include "sample/sample_database.h"
-#include "sample/sample_exercise_types.h"
-#include "sample/sample_glossary.h"
-#include "sample/sample_grammar.h"
-#include "sample/sample_index.h"
-#include "sample/sample_ini.h"
-#include "sample/sample_layout.h"
-#include "sample/sample_media.h"
-#include "sample/sample_package.h"
-#include "sample/sample_resources.h"
+#include <lumora/sample/sample_classes.h>
+#include <lumora/sample/sample_database.h>
+#include <lumora/sample/sample_exercise_types.h>
+#include <lumora/sample/sample_glossary.h>
+#include <lumora/sample/sample_grammar.h>
+#include <lumora/sample/sample_index.h>
+#include <lumora/sample/sample_ini.h>
+#include <lumora/sample/sample_layout.h>
+#include <lumora/sample/sample_media.h>
+#include <lumora/sample/sample_package.h>
+#include <lumora/sample/sample_resources.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,11 +1,11 @@
-#include "sample/sample_classes.h"
+#include <lumora/sample/sample_classes.h>
 
 #include <lumora/lexicon/classification.h>
 #include <lumora/support/paths.h>
 
 #include <cstdint>
 
-#include "sample/sample_dates.h"
+#include <lumora/sample/sample_dates.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,14 +1,14 @@
-#include "sample/sample_package.h"
+#include <lumora/sample/sample_package.h>
 
 #include <lumora/platform/coding.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type2000.h>
 #include <lumora/resources/types/type40.h>
 
-#include "sample/sample_builders.h"
-#include "sample/sample_exercise_types.h"
-#include "sample/sample_files.h"
-#include "sample/sample_phrases.h"
+#include <lumora/sample/sample_builders.h>
+#include <lumora/sample/sample_exercise_types.h>
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_phrases.h>
 
 namespace lumora::sample {
 namespace {

@@ -12,9 +12,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "sample/sample_exercise_types.h"
-#include "sample/sample_texts.h"
-#include "sample/sample_type_files.h"
+#include <lumora/sample/sample_exercise_types.h>
+#include <lumora/sample/sample_texts.h>
+#include <lumora/sample/sample_type_files.h>
 
 namespace lumora::sample {
 namespace {

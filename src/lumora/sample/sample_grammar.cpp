@@ -1,4 +1,4 @@
-#include "sample/sample_grammar.h"
+#include <lumora/sample/sample_grammar.h>
 
 #include <lumora/lexicon/grammar.h>
 #include <lumora/resources/resource_id.h>
@@ -7,9 +7,9 @@
 #include <array>
 #include <cstdio>
 
-#include "sample/sample_dates.h"
-#include "sample/sample_files.h"
-#include "sample/sample_package.h"
+#include <lumora/sample/sample_dates.h>
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_package.h>
 
 namespace lumora::sample {
 namespace {

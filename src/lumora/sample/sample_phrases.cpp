@@ -1,4 +1,4 @@
-#include "sample/sample_phrases.h"
+#include <lumora/sample/sample_phrases.h>
 
 #include <iterator>
 

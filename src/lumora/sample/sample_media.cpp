@@ -1,4 +1,4 @@
-#include "sample/sample_media.h"
+#include <lumora/sample/sample_media.h>
 
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>
@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string>
 
-#include "sample/sample_files.h"
-#include "sample/sample_layout.h"
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_layout.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_database.h"
+#include <lumora/sample/sample_database.h>
 
 #include <lumora/packages/database_connection.h>
 #include <lumora/packages/package_schema.h>
@@ -9,9 +9,9 @@
 #include <array>
 #include <string_view>
 
-#include "sample/sample_files.h"
-#include "sample/sample_layout.h"
-#include "sample/sample_package.h"
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_layout.h>
+#include <lumora/sample/sample_package.h>
 
 namespace lumora::sample {
 namespace {

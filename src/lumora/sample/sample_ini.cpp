@@ -1,10 +1,10 @@
-#include "sample/sample_ini.h"
+#include <lumora/sample/sample_ini.h>
 
 #include <lumora/support/paths.h>
 
 #include <cstdio>
 
-#include "sample/sample_files.h"
+#include <lumora/sample/sample_files.h>
 
 namespace lumora::sample {
 namespace {

@@ -1,4 +1,4 @@
-#include "sample/sample_glossary.h"
+#include <lumora/sample/sample_glossary.h>
 
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/glossary_rebuild.h>
@@ -10,10 +10,10 @@
 #include <span>
 #include <vector>
 
-#include "sample/sample_dates.h"
-#include "sample/sample_files.h"
-#include "sample/sample_glossary_words.h"
-#include "sample/sample_package.h"
+#include <lumora/sample/sample_dates.h>
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_glossary_words.h>
+#include <lumora/sample/sample_package.h>
 
 namespace lumora::sample {
 namespace {

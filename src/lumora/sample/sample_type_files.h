@@ -11,8 +11,8 @@
 #include <initializer_list>
 #include <string>
 
-#include "sample/sample_files.h"
-#include "sample/sample_media.h"
+#include <lumora/sample/sample_files.h>
+#include <lumora/sample/sample_media.h>
 
 namespace lumora::sample {
 

@@ -1,12 +1,12 @@
-#include "sample/sample_builders.h"
+#include <lumora/sample/sample_builders.h>
 
 #include <lumora/resources/resource_id.h>
 
 #include <memory>
 #include <string>
 
-#include "sample/sample_layout.h"
-#include "sample/sample_phrases.h"
+#include <lumora/sample/sample_layout.h>
+#include <lumora/sample/sample_phrases.h>
 
 namespace lumora::sample {
 namespace {

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "sample/sample_layout.h"
+#include <lumora/sample/sample_layout.h>
 
 namespace lumora::sample {
 

@@ -1,4 +1,4 @@
-#include "sample/sample_dates.h"
+#include <lumora/sample/sample_dates.h>
 
 #include <lumora/platform/profile.h>
 #include <lumora/support/xcrc_file2.h>

@@ -3,9 +3,9 @@
 #include <lumora/resources/types/type28.h>
 #include <lumora/resources/types/type5.h>
 
-#include "sample/sample_exercise_types.h"
-#include "sample/sample_texts.h"
-#include "sample/sample_type_files.h"
+#include <lumora/sample/sample_exercise_types.h>
+#include <lumora/sample/sample_texts.h>
+#include <lumora/sample/sample_type_files.h>
 
 namespace lumora::sample {
 namespace {
