@@ -1,13 +1,15 @@
-// The second include, for programs that inspect, convert, rebuild or write content rather than
-// show it; the lumora tool uses nothing else. Beside lumora.h's entry points it gives: the open
-// disciplines' roots, the exercise types and resource numbering, index rebuilds, set-file and
-// glossary-order checks and rebuilds, the package export and its queries, text labels of
-// resources, code pages and UTF-8, checksums, the language table, INI files, atomic writes, the
-// internal log and the sample content writer.
+// The second include, for programs that inspect, convert, rebuild or write content rather than show
+// it; the lumora tool uses nothing else. Beside lumora.h's entry points it gives: the integrity
+// check of a whole content root, the open disciplines' roots, the exercise types and resource
+// numbering, index rebuilds, set-file and glossary-order checks and rebuilds, the package export
+// and its queries, text labels of resources, code pages and UTF-8, checksums, the language table,
+// INI files, atomic writes, the internal log and the sample content writer.
 #pragma once
 
+#include <lumora/check/content_check.h>
 #include <lumora/frame/opened_disciplines.h>
 #include <lumora/frame/package_queries.h>
+#include <lumora/frame/resource_reading.h>
 #include <lumora/lexicon/glossary_rebuild.h>
 #include <lumora/lexicon/set_file_check.h>
 #include <lumora/lumora.h>
@@ -19,6 +21,7 @@
 #include <lumora/resources/context_description.h>
 #include <lumora/resources/context_labels.h>
 #include <lumora/resources/index_rebuild.h>
+#include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/text_context.h>
 #include <lumora/resources/type21_index.h>

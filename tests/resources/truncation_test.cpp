@@ -38,7 +38,8 @@ class DamagedFiles : public ::testing::Test {
     if (!file.resource) return ResourceIndex(dir_.path()).FindType(file.type) != nullptr;
     auto resource = NewResource(file.type);
     return LoadResource(dir_.path(), dir_.path(), ContentRequest{}, kStoredResourceId, *resource,
-                        false);
+                        false)
+        .ok();
   }
 
   testing::TempDir dir_;

@@ -2,6 +2,7 @@
 // discipline's resource files and writes its index files anew. Overwriting the discipline's own
 // index files takes --in-place, so that a trial run never replaces them by accident.
 #include <lumora/resources/index_rebuild.h>
+#include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
 
@@ -15,7 +16,6 @@
 
 #include "commands.h"
 #include "content_args.h"
-#include "index_numbers.h"
 #include "printable_text.h"
 
 namespace lumora::cli {

@@ -1,5 +1,6 @@
 // `lumora resource ROOT -d ID --type T --id RID [--path-kind K] [--order N] [--no-media]`: one
 // resource decoded, with the paths of its media.
+#include <lumora/frame/resource_reading.h>
 #include <lumora/lumora.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
@@ -39,7 +40,8 @@ void Run(const Options& options) {
   OpenedContent content(options.root, 0);
   const ContentRequest request =
       RequestFor(options.discipline, ParsePathKind(options.pathKind), options.order);
-  const bool ok = lmGetResource(&request, resource_id, resource.get(), !options.noMedia);
+  const LoadResult read = ReadResource(&request, resource_id, resource.get(), !options.noMedia);
+  const bool ok = read.ok();
 
   nlohmann::ordered_json out{{"ok", ok},
                              {"type", options.type},
@@ -51,6 +53,7 @@ void Run(const Options& options) {
     throw CommandFailure("no JSON form for resources of type " + std::to_string(options.type));
   }
   out["media"] = writer.media();
+  if (!ok) out["reason"] = PrintableText(FailureText(options.root, read.failure()));
 
   if (options.json) {
     PrintJson(out);
@@ -63,9 +66,7 @@ void Run(const Options& options) {
     }
     PrintTree(std::cout, HumanForm(fields), 2);
   }
-  if (!ok)
-    throw CommandFailure("resource " + options.id + " of type " + std::to_string(options.type) +
-                         " could not be read");
+  if (!ok) throw CommandFailure(FailureText(options.root, read.failure()));
 }
 
 void AddResourceCommand(CLI::App& app) {

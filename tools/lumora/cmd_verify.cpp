@@ -1,5 +1,6 @@
 // `lumora verify ROOT -d ID [--type T] [--quality 1,2,3] [--json]`: checks that every resource a
 // discipline's index lists finds its media and the resource files it refers to.
+#include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 
@@ -15,7 +16,6 @@
 
 #include "commands.h"
 #include "content_args.h"
-#include "index_numbers.h"
 #include "printable_text.h"
 #include "resource_json.h"
 

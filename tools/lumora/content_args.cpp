@@ -93,6 +93,15 @@ uint32_t TextCodePage(uint32_t id) {
                                                : kWindowsAnsi;
 }
 
+std::string FailureText(const std::string& root, const LoadFailure& failure) {
+  LoadFailure shown = failure;
+  const std::string folder = root.empty() || root.back() == '/' ? root : root + "/";
+  if (!folder.empty() && shown.file.compare(0, folder.size(), folder) == 0) {
+    shown.file.erase(0, folder.size());
+  }
+  return shown.file.empty() ? shown.Details() : shown.ToString();
+}
+
 std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
 
 nlohmann::ordered_json MediaJson(const MediaRef& media) {

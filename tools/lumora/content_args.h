@@ -4,6 +4,7 @@
 
 #include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
+#include <lumora/platform/load_result.h>
 #include <lumora/support/wide_text.h>
 
 #include <CLI/CLI.hpp>
@@ -54,6 +55,10 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t
 // The code page of the narrow texts in the resources of open discipline `id`: that of the
 // discipline's language (the low byte of its Param).
 uint32_t TextCodePage(uint32_t id);
+
+// A load failure as the tool prints it: the file relative to the content root when it lies below
+// it, the byte and what was wrong.
+std::string FailureText(const std::string& root, const LoadFailure& failure);
 
 std::string Utf8(const WideText& text);
 nlohmann::ordered_json MediaJson(const MediaRef& media);

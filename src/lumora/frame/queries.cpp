@@ -1,7 +1,7 @@
 #include <lumora/frame/boundary.h>
 #include <lumora/frame/library_state.h>
+#include <lumora/frame/resource_reading.h>
 #include <lumora/lumora.h>
-#include <lumora/resources/resource_files.h>
 
 namespace lumora {
 namespace {
@@ -13,14 +13,6 @@ Discipline* DisciplineOf(const ContentRequest* request) {
 ResourceIndex* ResourceInfos(const ContentRequest* request) {
   Discipline* discipline = DisciplineOf(request);
   return discipline ? discipline->resourceIndex.get() : nullptr;
-}
-
-bool GetResource(const ContentRequest* request, uint32_t resource_id, ExerciseResource* resource,
-                 bool fill_media) {
-  Discipline* discipline = DisciplineOf(request);
-  if (discipline == nullptr || resource == nullptr) return false;
-  return LoadResource(discipline->localRoot, ChosenRoot(*discipline, request->pathKind), *request,
-                      resource_id, *resource, fill_media);
 }
 
 bool GetMediaPath(const ContentRequest* request, MediaRef& media, std::string* path) {
@@ -50,7 +42,7 @@ lumora::ResourceIndex* lmGetResourceInfos(const lumora::ContentRequest* request)
 bool lmGetResource(const lumora::ContentRequest* request, uint32_t resourceId,
                    lumora::ExerciseResource* resource, bool fillMedia) {
   return lumora::Guarded(
-      false, [&] { return lumora::GetResource(request, resourceId, resource, fillMedia); });
+      false, [&] { return lumora::ReadResource(request, resourceId, resource, fillMedia).ok(); });
 }
 
 bool lmGetMediaPath(const lumora::ContentRequest* request, lumora::MediaRef media,

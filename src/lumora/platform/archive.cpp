@@ -16,6 +16,7 @@ void Archive::Fill() {
   if (begin_ < end_) return;
   begin_ = 0;
   end_ = stream_.Read(buffer_, kBufferSize);
+  filled_ += end_;
 }
 
 void Archive::ReadSlow(void* buffer, size_t n) {

@@ -68,6 +68,8 @@ class Archive {
   void Require(uint64_t n);
   // Bytes a loading archive can still read: those buffered and those the stream holds.
   uint64_t Available() const;
+  // Bytes a loading archive has handed out so far: where in the file a failed read stopped.
+  uint64_t Position() const { return filled_ - (end_ - begin_); }
   // True when a loading archive has no buffered byte left (the stream may still hold more).
   bool AtEnd() const { return begin_ == end_; }
 
@@ -115,8 +117,9 @@ class Archive {
   Stream& stream_;
   Mode mode_;
   uint8_t buffer_[kBufferSize];
-  size_t begin_ = 0;  // next unread byte (load)
-  size_t end_ = 0;    // end of valid bytes (load) or of buffered bytes (store)
+  size_t begin_ = 0;     // next unread byte (load)
+  size_t end_ = 0;       // end of valid bytes (load) or of buffered bytes (store)
+  uint64_t filled_ = 0;  // bytes taken from the stream into the buffer (load)
 };
 
 }  // namespace lumora

@@ -1,9 +1,9 @@
+#include <lumora/platform/scratch_folder.h>
 #include <lumora/resources/index_rebuild.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/folder_commit.h>
 
-#include <stdlib.h>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -12,26 +12,6 @@
 
 namespace lumora {
 namespace {
-
-// A fresh folder below the system's temporary folder, removed with its content at the end.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::error_code error;
-    std::string pattern = (std::filesystem::temp_directory_path(error) / "lumora-index-XXXXXX");
-    if (!error && ::mkdtemp(pattern.data()) != nullptr) path_ = pattern + "/";
-  }
-  ~ScratchFolder() {
-    std::error_code error;
-    if (!path_.empty()) std::filesystem::remove_all(path_, error);
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 std::optional<std::string> ReadBytes(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
@@ -47,7 +27,7 @@ WriteStatus RebuildIndexesInPlace(const std::string& resource_root, const std::s
                                   const std::vector<uint32_t>& types,
                                   std::vector<TypeRebuild>& results) {
   results.clear();
-  ScratchFolder scratch;
+  const ScratchFolder scratch("lumora-index");
   if (scratch.path().empty()) {
     return WriteStatus::Failure("temporary folder", "cannot create a scratch folder", errno);
   }

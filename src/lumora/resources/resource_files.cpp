@@ -10,15 +10,15 @@ std::string ResourceFilePath(const std::string& root, uint32_t type, uint32_t re
          kPathSeparator + NumberedName('r', NumberOf(resource_id)) + ".ars";
 }
 
-bool LoadResource(const std::string& local_root, const std::string& chosen_root,
-                  const ContentRequest& request, uint32_t resource_id, ExerciseResource& target,
-                  bool fill_media) {
+LoadResult LoadResource(const std::string& local_root, const std::string& chosen_root,
+                        const ContentRequest& request, uint32_t resource_id,
+                        ExerciseResource& target, bool fill_media) {
   std::string path = ResourceFilePath(local_root, target.GetType(), resource_id);
   const std::string twin = ChangeExtension(path, "arh");
   if (FileExists(twin)) path = twin;
-  if (!LoadArchiveFile(path, false, target)) return false;
-  if (fill_media) target.ResolveMedia(request, local_root, chosen_root);
-  return true;
+  LoadResult loaded = ReadArchiveFile(path, target);
+  if (loaded.ok() && fill_media) target.ResolveMedia(request, local_root, chosen_root);
+  return loaded;
 }
 
 bool ReferencedFileCheck(const std::string& root, uint32_t resource_id, std::string& message) {

@@ -28,8 +28,8 @@ constexpr int kIndexedGlossaryDiscipline = 1;
 // the others index only the types their resources and their package's have.
 bool WriteDiscipline(const std::string& folder, const SampleDiscipline& d, int scale,
                      std::string* error) {
-  if (!WriteDescriptionIndex(folder, error)) return false;
-  if (d.type != 0) return true;
+  if (!WriteDescriptions(folder, error)) return false;
+  if (d.type != 0) return RebuildDescriptionIndex(folder, folder, error);
   if (!WriteSampleResources(folder, scale, error) || !WriteSampleMedia(folder, scale, error) ||
       !WritePackageResources(folder, error) ||
       !WriteSampleGrammar(folder, static_cast<uint8_t>(d.param), error) ||

@@ -5,6 +5,7 @@
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/type1005.h>
+#include <lumora/resources/types/type2000.h>
 #include <lumora/resources/types/type40.h>
 
 #include <memory>
@@ -33,12 +34,10 @@ constexpr Description kDescriptions[] = {
     {40, 2, u"Numbers", u"Les nombres"},
 };
 
-std::unique_ptr<Type2000Entry> EntryOf(const Description& description) {
-  auto entry = std::make_unique<Type2000Entry>();
-  entry->attribute = description.attribute;
-  entry->titles.Add(kEnglish, CodePageText(kWesternCodePage, WideText(description.english)));
-  entry->titles.Add(kFrench, CodePageText(kWesternCodePage, WideText(description.french)));
-  return entry;
+void Describe(const Description& description, Type2000Entry& entry) {
+  entry.attribute = description.attribute;
+  entry.titles.Add(kEnglish, CodePageText(kWesternCodePage, WideText(description.english)));
+  entry.titles.Add(kFrench, CodePageText(kWesternCodePage, WideText(description.french)));
 }
 
 bool RebuildIndex(uint32_t type, const std::string& root, const std::string& data_folder,
@@ -50,14 +49,22 @@ bool RebuildIndex(uint32_t type, const std::string& root, const std::string& dat
 
 }  // namespace
 
-bool WriteDescriptionIndex(const std::string& data_folder, std::string* error) {
-  Type2000Index index;
+bool WriteDescriptions(const std::string& root, std::string* error) {
   for (const Description& description : kDescriptions) {
-    index.table.Add(description.number, EntryOf(description));
+    Type2000Resource resource;
+    Describe(description, resource.description);
+    resource.description.media =
+        MediaRef(kMediaPicture, kDescriptionFolder, MakeResourceId(0, kDescriptionPicture));
+    if (!StoreResourceFile(root, MakeResourceId(0, description.number), resource, error)) {
+      return false;
+    }
   }
-  index.table.ObjectAt(0)->media =
-      MediaRef(kMediaPicture, kDescriptionFolder, MakeResourceId(0, kDescriptionPicture));
-  return StoreObjectFile(IndexFilePath(data_folder, kDescriptionType), index, error);
+  return true;
+}
+
+bool RebuildDescriptionIndex(const std::string& root, const std::string& data_folder,
+                             std::string* error) {
+  return RebuildIndex(kDescriptionType, root, data_folder, error);
 }
 
 bool RebuildResourceIndexes(const std::string& root, const std::string& data_folder,
@@ -71,7 +78,7 @@ bool RebuildResourceIndexes(const std::string& root, const std::string& data_fol
 bool RebuildPackageIndexes(const std::string& root, const std::string& data_folder,
                            std::string* error) {
   if (!RebuildResourceIndexes(root, data_folder, error)) return false;
-  for (uint32_t type : {5u, 8u, 10u, 28u, 1003u}) {
+  for (uint32_t type : {5u, 8u, 10u, 28u, 1003u, kDescriptionType}) {
     if (!RebuildIndex(type, root, data_folder, error)) return false;
   }
   return true;
@@ -81,7 +88,7 @@ bool RebuildEveryTypeIndex(const std::string& root, const std::string& data_fold
                            std::string* error) {
   if (!RebuildResourceIndexes(root, data_folder, error)) return false;
   for (uint32_t type : kExerciseTypes) {
-    if (type == Type40Resource::kType || type == kContentElementType || type == kDescriptionType) {
+    if (type == Type40Resource::kType || type == kContentElementType) {
       continue;
     }
     if (!RebuildIndex(type, root, data_folder, error)) return false;

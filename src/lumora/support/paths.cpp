@@ -10,8 +10,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <iterator>
+#include <new>
 
 namespace lumora {
 namespace {
@@ -133,37 +135,55 @@ std::string FirstExistingFile(const std::string& base,
 // Loading reads the file as it stands; storing makes the whole file in memory first and
 // replaces the old one atomically, so that a failed store leaves the previous file in place.
 bool LoadArchiveFile(const std::string& path, bool store, Object& object) {
-  using namespace open_flags;
+  if (!store) return ReadArchiveFile(path, object).ok();
   try {
-    if (store) {
-      StringSink sink;
-      Archive ar(sink, Archive::Mode::kStore);
-      object.Serialize(ar);
-      ar.Flush();
-      return WriteFileAtomically(path, sink.Take()).ok();
-    }
-    if (const std::string* kept = KeptFile(path)) return LoadArchiveBytes(*kept, object);
-    File file;
-    if (!file.Open(path, kRead | kShareDenyNone | kBinary)) return false;
-    FileStream stream(file);
-    Archive ar(stream, Archive::Mode::kLoad);
+    StringSink sink;
+    Archive ar(sink, Archive::Mode::kStore);
     object.Serialize(ar);
+    ar.Flush();
+    return WriteFileAtomically(path, sink.Take()).ok();
   } catch (const std::exception&) {
-    // Archive errors, and allocations refused for counts a corrupted file claims.
     return false;
   }
-  return true;
+}
+
+namespace {
+
+// Archive errors, and allocations refused for counts a corrupted file claims, stop the load
+// where the archive stands.
+LoadResult ReadFromStream(Stream& stream, Object& object, const std::string& path) {
+  Archive ar(stream, Archive::Mode::kLoad);
+  try {
+    object.Serialize(ar);
+  } catch (const std::bad_alloc&) {
+    return LoadResult({path, ar.Position(), "a stored count is larger than memory allows"});
+  } catch (const std::exception& error) {
+    return LoadResult({path, ar.Position(), error.what()});
+  }
+  return {};
+}
+
+}  // namespace
+
+LoadResult ReadArchiveFile(const std::string& path, Object& object) {
+  using namespace open_flags;
+  if (const std::string* kept = KeptFile(path)) return ReadArchiveBytes(*kept, object, path);
+  File file;
+  if (!file.Open(path, kRead | kShareDenyNone | kBinary)) {
+    return LoadResult(
+        {path, std::nullopt, std::string("cannot be opened: ") + std::strerror(file.LastError())});
+  }
+  FileStream stream(file);
+  return ReadFromStream(stream, object, path);
 }
 
 bool LoadArchiveBytes(std::string_view bytes, Object& object) {
-  try {
-    ViewStream stream(bytes);
-    Archive ar(stream, Archive::Mode::kLoad);
-    object.Serialize(ar);
-  } catch (const std::exception&) {
-    return false;
-  }
-  return true;
+  return ReadArchiveBytes(bytes, object, std::string()).ok();
+}
+
+LoadResult ReadArchiveBytes(std::string_view bytes, Object& object, const std::string& path) {
+  ViewStream stream(bytes);
+  return ReadFromStream(stream, object, path);
 }
 
 std::string UniqueFileName(const char* extension, const char* folder, const char* prefix) {

@@ -2,6 +2,8 @@
 // values never do. Nothing here keeps state or throws: failures are false or empty results.
 #pragma once
 
+#include <lumora/platform/load_result.h>
+
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -54,6 +56,11 @@ bool LoadArchiveFile(const std::string& path, bool store, Object& object);
 
 // Loads `object` from a file's bytes already in memory, as LoadArchiveFile loads the file.
 bool LoadArchiveBytes(std::string_view bytes, Object& object);
+
+// The loads above, answering why they failed: the file, the byte where reading stopped and the
+// archive's complaint. `path` names the bytes' file in the failure.
+LoadResult ReadArchiveFile(const std::string& path, Object& object);
+LoadResult ReadArchiveBytes(std::string_view bytes, Object& object, const std::string& path);
 
 // folder + prefix + n + "." + extension for the first n = 0, 1, 2, ... naming no existing file.
 // Null arguments take the defaults "tmp", the temporary folder and "~AT". Nothing is created,

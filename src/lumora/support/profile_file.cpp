@@ -47,9 +47,11 @@ void SplitPieces(std::string_view bytes, std::vector<std::string>* lines) {
   if (!piece.empty()) lines->push_back(Stored(piece));
 }
 
+}  // namespace
+
 // A long is 32 bits on the platform the files come from, so out-of-range values saturate
 // there, not at 64 bits.
-int32_t ParseLong(std::string_view text) {
+int32_t ParseProfileInt(std::string_view text) {
   size_t i = text.find_first_not_of(" \t\n\v\f\r");
   if (i == std::string_view::npos) return 0;
   bool negative = text[i] == '-';
@@ -62,8 +64,6 @@ int32_t ParseLong(std::string_view text) {
   }
   return static_cast<int32_t>(negative ? -value : value);
 }
-
-}  // namespace
 
 bool ProfileFile::Load(const std::string& path) {
   lines.clear();
@@ -118,6 +118,6 @@ std::string ProfileFile::GetString(const std::string& key) {
   return defaultValue;
 }
 
-int32_t ProfileFile::GetInt(const std::string& key) { return ParseLong(GetString(key)); }
+int32_t ProfileFile::GetInt(const std::string& key) { return ParseProfileInt(GetString(key)); }
 
 }  // namespace lumora

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -36,6 +37,9 @@ class ProfileFile {
   int32_t cursor = 0;        // line where the last search stopped
   uint8_t sectionFound = 0;  // whether the last section search succeeded
 };
+
+// A value read as GetInt reads it.
+int32_t ParseProfileInt(std::string_view text);
 
 }  // namespace lumora
 

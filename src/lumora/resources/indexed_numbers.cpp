@@ -1,13 +1,12 @@
-#include "index_numbers.h"
-
 #include <lumora/resources/index_forms.h>
+#include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type21_index.h>
 #include <lumora/resources/types/type1003_index.h>
 #include <lumora/resources/types/type1005_index.h>
 #include <lumora/resources/types/type1010_index.h>
 
-namespace lumora::cli {
+namespace lumora {
 namespace {
 
 IndexedNumbers FromGroups(const ResourceGroups& groups) {
@@ -54,4 +53,4 @@ std::optional<IndexedNumbers> NumbersOf(const TypeIndex& index) {
   return FromTable<Type2000Entry>(index);
 }
 
-}  // namespace lumora::cli
+}  // namespace lumora

@@ -1,5 +1,5 @@
-// The resource numbers an index file lists, whatever its form, for the commands that walk a
-// discipline's resources.
+// The resource numbers an index file lists, whatever its form, for the programs that walk a
+// discipline's resources (a check, a media verification).
 #pragma once
 
 #include <lumora/resources/type_index.h>
@@ -8,7 +8,10 @@
 #include <optional>
 #include <vector>
 
-namespace lumora::cli {
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
 
 struct IndexedNumbers {
   uint32_t groups = 0;            // groups of a grouped form; 0 for the flat forms
@@ -18,4 +21,6 @@ struct IndexedNumbers {
 // Empty for a form that lists no resource numbers.
 std::optional<IndexedNumbers> NumbersOf(const TypeIndex& index);
 
-}  // namespace lumora::cli
+}  // namespace lumora
+
+#pragma GCC visibility pop

@@ -1,0 +1,118 @@
+// Each discipline's index files against its resource files: every index loads, lists only
+// resources whose file exists, misses none that does, and holds exactly what a rebuild from the
+// resource files would write.
+#include <lumora/check/checks.h>
+#include <lumora/platform/file.h>
+#include <lumora/platform/scratch_folder.h>
+#include <lumora/resources/indexed_numbers.h>
+#include <lumora/resources/resource_index.h>
+#include <lumora/resources/resource_scan.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/support/paths.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+#include <string>
+
+namespace lumora {
+namespace {
+
+// Index files are small; anything larger than this is not worth comparing byte by byte.
+constexpr uint64_t kMostIndexBytes = 256ull << 20;
+
+std::string TypeName(uint32_t type) { return "type " + std::to_string(type); }
+
+// The first byte at which the two differ, or their common length when one is shorter.
+size_t FirstDifference(const std::string& a, const std::string& b) {
+  const auto [in_a, in_b] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+  return static_cast<size_t>(in_a - a.begin());
+}
+
+void CompareWithRebuild(const CheckedRoot& root, const Discipline& discipline, uint32_t type,
+                        const std::string& stored_path, const std::string& scratch,
+                        CheckReport& report) {
+  if (!BuildTypeIndex(type, discipline.localRoot, scratch)) {
+    report.Warning(root.Relative(stored_path),
+                   "could not be compared with a rebuild: some " + TypeName(type) +
+                       " resource files do not read (see the resources check)");
+    return;
+  }
+  std::string stored;
+  std::string rebuilt;
+  if (ReadWholeFile(stored_path, kMostIndexBytes, stored) != WholeFile::kRead ||
+      ReadWholeFile(IndexFilePath(scratch, type), kMostIndexBytes, rebuilt) != WholeFile::kRead) {
+    return;
+  }
+  if (stored == rebuilt) return;
+  report.Error(root.Relative(stored_path), "differs from a rebuild of the " + TypeName(type) +
+                                               " resource files (" + std::to_string(stored.size()) +
+                                               " bytes stored, " + std::to_string(rebuilt.size()) +
+                                               " rebuilt, first difference at byte " +
+                                               std::to_string(FirstDifference(stored, rebuilt)) +
+                                               "): lumora rebuild-index writes the rebuilt one");
+}
+
+void CheckType(const CheckedRoot& root, const Discipline& discipline, uint32_t type,
+               const std::string& scratch, CheckReport& report) {
+  const std::string path = IndexFilePath(discipline.dataFolder, type);
+  const std::vector<ScannedResource> files = ScanResourceFiles(discipline.localRoot, type);
+  ++report.checked;
+  if (!FileExists(path)) {
+    if (!files.empty()) {
+      report.Error(root.Relative(path),
+                   "is missing, though " + std::to_string(files.size()) + " " + TypeName(type) +
+                       " resource files exist: the library lists none of them");
+    }
+    return;
+  }
+  // Every type's index class loads its file through the archive: the same read, with its
+  // reason.
+  std::unique_ptr<TypeIndex> index = NewTypeIndex(type);
+  const LoadResult loaded = ReadArchiveFile(path, *index);
+  if (!loaded.ok()) {
+    report.Error(root.Relative(path), "does not load (" + loaded.failure().Details() +
+                                          "): the library lists no " + TypeName(type) +
+                                          " resource of this discipline");
+    return;
+  }
+  std::set<uint32_t> on_disk;
+  for (const ScannedResource& file : files) on_disk.insert(file.number);
+  std::set<uint32_t> indexed;
+  if (const auto numbers = NumbersOf(*index))
+    indexed.insert(numbers->numbers.begin(), numbers->numbers.end());
+  for (uint32_t number : indexed) {
+    ++report.checked;
+    if (on_disk.count(number) == 0) {
+      report.Error(root.Relative(path), "lists resource " + std::to_string(number) +
+                                            ", whose file is in no course folder");
+    }
+  }
+  for (const ScannedResource& file : files) {
+    ++report.checked;
+    if (indexed.count(file.number) == 0) {
+      report.Error(root.Relative(file.path),
+                   "is not in the " + TypeName(type) + " index: the library never lists it");
+    }
+  }
+  if (!scratch.empty()) CompareWithRebuild(root, discipline, type, path, scratch, report);
+}
+
+}  // namespace
+
+void CheckIndexes(const CheckedRoot& root, CheckReport& report) {
+  for (const CheckedDiscipline& d : root.disciplines) {
+    // A fresh scratch folder per discipline: rebuilds write companion files of other types.
+    const ScratchFolder scratch("lumora-check");
+    if (scratch.path().empty()) {
+      report.Warning(root.Relative(d.discipline->dataFolder),
+                     "no scratch folder could be made: the index files are not compared with a "
+                     "rebuild");
+    }
+    for (uint32_t type : kExerciseTypes) {
+      CheckType(root, *d.discipline, type, scratch.path(), report);
+    }
+  }
+}
+
+}  // namespace lumora

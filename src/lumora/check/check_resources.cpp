@@ -1,0 +1,55 @@
+// Every resource file of every exercise type decodes with its type's class, and holds the
+// resource its path names; an ".arh" twin, which the library prefers, decodes too.
+#include <lumora/check/checks.h>
+#include <lumora/check/resource_walk.h>
+#include <lumora/resources/resource_id.h>
+#include <lumora/resources/type_catalog.h>
+#include <lumora/support/paths.h>
+
+#include <string>
+
+namespace lumora {
+namespace {
+
+std::string IdText(uint32_t course, uint32_t number) {
+  return "course " + std::to_string(course) + ", number " + std::to_string(number);
+}
+
+void CheckFile(const CheckedRoot& root, uint32_t type, const WalkedResource& file,
+               CheckReport& report) {
+  ++report.checked;
+  const std::string relative = root.Relative(file.path);
+  if (!file.course) {
+    report.Warning(relative,
+                   "lies outside a course folder (C and four digits): the library never reads it");
+  }
+  std::unique_ptr<ExerciseResource> resource = NewResource(type);
+  const LoadResult loaded = ReadArchiveFile(file.path, *resource);
+  if (!loaded.ok()) {
+    report.Error(relative,
+                 "does not decode as type " + std::to_string(type) + " (" +
+                     loaded.failure().Details() + ")" +
+                     (file.twin ? ": the library reads this twin before the .ars file" : ""));
+    return;
+  }
+  const uint32_t stored = resource->resourceId;
+  if (file.course && (CourseOf(stored) != *file.course || NumberOf(stored) != file.number)) {
+    report.Error(relative, "holds resource " + std::to_string(stored) + " (" +
+                               IdText(CourseOf(stored), NumberOf(stored)) +
+                               ") but its path names " + IdText(*file.course, file.number));
+  }
+}
+
+}  // namespace
+
+void CheckResources(const CheckedRoot& root, CheckReport& report) {
+  for (const CheckedDiscipline& d : root.disciplines) {
+    for (uint32_t type : kExerciseTypes) {
+      for (const WalkedResource& file : WalkResourceFiles(d.discipline->localRoot, type)) {
+        CheckFile(root, type, file, report);
+      }
+    }
+  }
+}
+
+}  // namespace lumora

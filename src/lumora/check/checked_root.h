@@ -1,0 +1,49 @@
+// A content root opened for checking: its Content.ini, its common roots, the classification and
+// every discipline the library's open would open, held here and not in the library's registry,
+// so that a check leaves the host's open content alone.
+#pragma once
+
+#include <lumora/check/content_check.h>
+#include <lumora/frame/discipline.h>
+#include <lumora/lexicon/classification.h>
+#include <lumora/support/content_ini.h>
+#include <lumora/support/profile_file.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lumora {
+
+struct CheckedDiscipline {
+  uint32_t section = 0;  // n of section "%03d"
+  uint32_t id = 0;
+  std::unique_ptr<Discipline> discipline;
+};
+
+class CheckedRoot {
+ public:
+  CheckedRoot(const std::string& content_root, const CheckOptions& options);
+  CheckedRoot(const CheckedRoot&) = delete;
+  CheckedRoot& operator=(const CheckedRoot&) = delete;
+
+  // `path` relative to the root when it lies below it, else as given.
+  std::string Relative(const std::string& path) const;
+  // The quality folders to check: those of the options, or 1, 2 and 3.
+  const ByteArray& qualityFolders() const { return quality_; }
+
+  const CheckOptions& options;
+  std::string root;  // with its separator
+  std::string iniPath;
+  bool iniLoaded = false;
+  ProfileFile ini;  // as loaded; the searches' cursor is the checks' to move
+  CommonRoots common;
+  Classification classification;
+  std::vector<CheckedDiscipline> disciplines;  // Type 0 and the filter's, in section order
+
+ private:
+  ByteArray quality_;
+};
+
+}  // namespace lumora

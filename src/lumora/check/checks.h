@@ -1,0 +1,15 @@
+// The checks that CheckContentRoot runs, one file each. A check adds to `report.checked` what
+// it looked at and a finding for each thing wrong; it never writes into the tree.
+#pragma once
+
+#include <lumora/check/checked_root.h>
+#include <lumora/check/content_check.h>
+
+namespace lumora {
+
+void CheckConfig(const CheckedRoot& root, CheckReport& report);
+void CheckIndexes(const CheckedRoot& root, CheckReport& report);
+void CheckResources(const CheckedRoot& root, CheckReport& report);
+void CheckNameCase(const CheckedRoot& root, CheckReport& report);
+
+}  // namespace lumora

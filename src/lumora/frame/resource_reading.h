@@ -1,0 +1,23 @@
+// Reading one resource of an open discipline, saying why it failed: what lmGetResource answers
+// with a bool, for programs that show the reason (the file, the byte, what was wrong).
+#pragma once
+
+#include <lumora/platform/load_result.h>
+#include <lumora/resources/content_request.h>
+#include <lumora/resources/exercise_resource.h>
+
+#include <cstdint>
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+// lmGetResource's read. A request for no open discipline, or no resource object, fails without
+// a file.
+LoadResult ReadResource(const ContentRequest* request, uint32_t resourceId,
+                        ExerciseResource* resource, bool fillMedia);
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
