@@ -7,6 +7,7 @@
 #pragma once
 
 #include <lumora/check/content_check.h>
+#include <lumora/check/media_verification.h>
 #include <lumora/frame/opened_disciplines.h>
 #include <lumora/frame/package_queries.h>
 #include <lumora/frame/resource_reading.h>

@@ -1,15 +1,11 @@
 // `lumora verify ROOT -d ID [--type T] [--quality 1,2,3] [--json]`: checks that every resource a
 // discipline's index lists finds its media and the resource files it refers to.
-#include <lumora/resources/indexed_numbers.h>
-#include <lumora/resources/resource_id.h>
-#include <lumora/resources/type_catalog.h>
+#include <lumora/check/media_verification.h>
+#include <lumora/lumora.h>
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -17,12 +13,9 @@
 #include "commands.h"
 #include "content_args.h"
 #include "printable_text.h"
-#include "resource_json.h"
 
 namespace lumora::cli {
 namespace {
-
-namespace fs = std::filesystem;
 
 struct Options {
   std::string root;
@@ -32,61 +25,12 @@ struct Options {
   bool json = false;
 };
 
-// The courses below a local root, from the names of its "C%04d" folders, in ascending order.
-std::vector<uint32_t> CoursesBelow(const std::string& local_root) {
-  std::vector<uint32_t> courses;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(local_root, error)) {
-    const std::string name = entry.path().filename().string();
-    if (name.size() != 5 || name[0] != 'C' || !entry.is_directory(error)) continue;
-    if (!std::all_of(name.begin() + 1, name.end(), [](char c) { return std::isdigit(c); })) {
-      continue;
-    }
-    courses.push_back(static_cast<uint32_t>(std::stoul(name.substr(1))));
-  }
-  std::sort(courses.begin(), courses.end());
-  return courses;
-}
-
-bool HasResourceFile(const std::string& local_root, uint32_t type, uint32_t resource_id) {
-  char relative[64];
-  std::snprintf(relative, sizeof relative, "C%04u/r%07u/r%07u", CourseOf(resource_id), type,
-                NumberOf(resource_id));
-  std::error_code error;
-  const std::string base = local_root + relative;
-  return fs::is_regular_file(base + ".ars", error) || fs::is_regular_file(base + ".arh", error);
-}
-
-// An index holds resource numbers only: each is looked for in every course folder.
-std::vector<uint32_t> ResourceIdsOf(const std::string& local_root, uint32_t type,
-                                    const std::vector<uint32_t>& courses,
-                                    std::vector<uint32_t> numbers) {
-  std::sort(numbers.begin(), numbers.end());
-  numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
-  std::vector<uint32_t> ids;
-  for (uint32_t number : numbers) {
-    for (uint32_t course : courses) {
-      const uint32_t id = MakeResourceId(course, number);
-      if (HasResourceFile(local_root, type, id)) ids.push_back(id);
-    }
-  }
-  return ids;
-}
-
-nlohmann::ordered_json Check(const ContentRequest& request, const std::string& local_root,
-                             const ByteArray& quality, uint32_t type, uint32_t resource_id) {
-  std::unique_ptr<ExerciseResource> resource = NewResource(type);
-  std::string report;
-  bool ok = lmGetResource(&request, resource_id, resource.get(), false);
-  if (ok) {
-    ok = resource->VerifyMedia(local_root, quality, report, resource_id);
-  } else {
-    report = "resource file could not be read";
-  }
-  return {{"type", type},
-          {"resourceId", resource_id},
-          {"ok", ok},
-          {"report", PrintableText(report, kWindowsAnsi)}};
+nlohmann::ordered_json Described(const MediaVerification& v) {
+  return {{"type", v.type},
+          {"resourceId", v.resourceId},
+          {"ok", v.ok()},
+          {"report",
+           PrintableText(v.read ? v.report : "resource file could not be read", kWindowsAnsi)}};
 }
 
 void PrintFailure(const nlohmann::ordered_json& result) {
@@ -104,18 +48,13 @@ void Run(const Options& options) {
   const OpenedDiscipline discipline = DisciplineFor(options.discipline);
   const ResourceIndex* index = lmGetResourceInfos(&request);
   if (index == nullptr) throw CommandFailure("discipline has no resource index");
-  const std::vector<uint32_t> courses = CoursesBelow(discipline.localRoot);
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();
   uint32_t failures = 0;
-  for (uint32_t type : index->types()) {
-    if (options.type && *options.type != type) continue;
-    const auto indexed = NumbersOf(*index->FindType(type));
-    if (!indexed) continue;
-    for (uint32_t id : ResourceIdsOf(discipline.localRoot, type, courses, indexed->numbers)) {
-      results.push_back(Check(request, discipline.localRoot, quality, type, id));
-      if (results.back()["ok"] == false) ++failures;
-    }
+  for (const MediaVerification& v :
+       VerifyIndexedMedia(discipline.localRoot, *index, quality, options.type)) {
+    results.push_back(Described(v));
+    if (!v.ok()) ++failures;
   }
   if (options.json) {
     PrintJson(results);

@@ -1,0 +1,54 @@
+// The media of every indexed resource in the chosen quality folders, and the resource files it
+// refers to: one finding per line the resource itself reports.
+#include <lumora/check/checks.h>
+#include <lumora/check/media_verification.h>
+#include <lumora/platform/codepage.h>
+#include <lumora/platform/utf8.h>
+
+#include <sstream>
+
+namespace lumora {
+namespace {
+
+constexpr uint32_t kReportCodePage = 1252;
+
+// A line of the resource's report as a finding says it: without its leading tabs, in UTF-8
+// (the resources report in code page 1252), paths relative to the root.
+std::string FindingText(const CheckedRoot& root, const std::string& line) {
+  const size_t first = line.find_first_not_of("\t ");
+  if (first == std::string::npos) return std::string();
+  std::string text = Utf16ToUtf8(DecodeCodePage(line.substr(first), kReportCodePage));
+  for (size_t at = text.find(root.root); at != std::string::npos && !root.root.empty();
+       at = text.find(root.root, at)) {
+    text.erase(at, root.root.size());
+  }
+  return text;
+}
+
+}  // namespace
+
+void CheckMedia(const CheckedRoot& root, CheckReport& report) {
+  for (const CheckedDiscipline& d : root.disciplines) {
+    if (!d.discipline->resourceIndex) continue;
+    for (const MediaVerification& v :
+         VerifyIndexedMedia(d.discipline->localRoot, *d.discipline->resourceIndex,
+                            root.qualityFolders(), std::nullopt)) {
+      ++report.checked;
+      const std::string file = root.Relative(v.path);
+      if (!v.read) {
+        report.Error(file,
+                     "does not decode, so its media are not checked (see the resources "
+                     "check)");
+        continue;
+      }
+      std::stringstream lines(v.report);
+      std::string line;
+      while (std::getline(lines, line)) {
+        const std::string finding = FindingText(root, line);
+        if (!finding.empty() && finding != "!") report.Error(file, finding);
+      }
+    }
+  }
+}
+
+}  // namespace lumora

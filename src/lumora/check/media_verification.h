@@ -1,0 +1,39 @@
+// Whether the resources an index lists find their media and the resource files they refer to:
+// what `lumora verify` shows for one discipline and the media check reports for every one.
+// An index holds resource numbers only, so each number is looked for in every course folder.
+#pragma once
+
+#include <lumora/platform/typed_array.h>
+#include <lumora/resources/resource_index.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+struct MediaVerification {
+  uint32_t type = 0;
+  uint32_t resourceId = 0;
+  std::string path;  // the resource file read (its ".arh" twin when there is one)
+  bool read = false;
+  std::string report;  // the resource's own lines, one per missing medium or file
+
+  bool ok() const { return read && report.empty(); }
+};
+
+// Every resource of every type of `index` (only `onlyType` when given) whose file lies in a
+// course folder below local_root, read and verified against the media of `qualityFolders`.
+// In type order, then resource identifier order.
+std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
+                                                  const ResourceIndex& index,
+                                                  const ByteArray& qualityFolders,
+                                                  std::optional<uint32_t> onlyType);
+
+}  // namespace lumora
+
+#pragma GCC visibility pop

@@ -1,0 +1,44 @@
+#include <gmock/gmock.h>
+
+#include "check/check_fixture.h"
+
+namespace lumora {
+namespace {
+
+using testing::CheckTest;
+using ::testing::ElementsAre;
+
+using MediaCheck = CheckTest;
+
+// The sample plants five media problems in discipline 1 (and the missing element pictures in
+// the two others): the check finds exactly those, each on the resource that names the medium,
+// in UTF-8 and with paths below the root.
+TEST_F(MediaCheck, FindsExactlyThePlantedProblems) {
+  CheckOptions options;
+  options.checks = {"media"};
+  options.disciplineFilter = 1;
+  const std::vector<CheckReport> reports = CheckContentRoot(root(), options);
+  ASSERT_EQ(reports.size(), 1u);
+  std::vector<std::string> lines;
+  for (const Finding& f : reports[0].findings) lines.push_back(f.file + ": " + f.message);
+  EXPECT_THAT(
+      lines,
+      ElementsAre(
+          "D001/C0001/r0000008/r0000003.ars: Paragraph n°9 of video 1 does not exist for Item: "
+          "1048579",
+          "D001/C0001/r0000019/r0000003.ars: Positon Id: 4 not found for Item : 1048579!",
+          "D001/C0001/r0001006/r0000003.ars: File not found: "
+          "D001/C0001/r0001006/Q1/p0000033.swf!",
+          "D001/C0001/r0001005/r0000004.ars: File not found: "
+          "D001/C0001/r0001005/Q1/p0000004.swf!",
+          "D001/C0002/r0001005/r0000008.ars: File not found: "
+          "D001/C0002/r0001005/Q1/p0000008.swf!"));
+
+  // Only the quality folders asked for are looked in.
+  options.qualityFolders.Add(2);
+  EXPECT_EQ(CheckContentRoot(root(), options)[0].findings[4].message,
+            "File not found: D001/C0002/r0001005/Q2/p0000008.swf!");
+}
+
+}  // namespace
+}  // namespace lumora
