@@ -11,6 +11,7 @@ void CheckConfig(const CheckedRoot& root, CheckReport& report);
 void CheckIndexes(const CheckedRoot& root, CheckReport& report);
 void CheckResources(const CheckedRoot& root, CheckReport& report);
 void CheckMedia(const CheckedRoot& root, CheckReport& report);
+void CheckPackages(const CheckedRoot& root, CheckReport& report);
 void CheckNameCase(const CheckedRoot& root, CheckReport& report);
 
 }  // namespace lumora

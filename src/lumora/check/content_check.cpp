@@ -16,7 +16,7 @@ struct NamedCheck {
 constexpr std::array kChecks = {
     NamedCheck{"config", &CheckConfig},       NamedCheck{"index", &CheckIndexes},
     NamedCheck{"resources", &CheckResources}, NamedCheck{"media", &CheckMedia},
-    NamedCheck{"names", &CheckNameCase},
+    NamedCheck{"packages", &CheckPackages},   NamedCheck{"names", &CheckNameCase},
 };
 
 uint64_t CountOf(const CheckReport& report, Severity severity) {
