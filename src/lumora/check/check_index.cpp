@@ -2,6 +2,7 @@
 // resources whose file exists, misses none that does, and holds exactly what a rebuild from the
 // resource files would write.
 #include <lumora/check/checks.h>
+#include <lumora/platform/atomic_write.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/scratch_folder.h>
 #include <lumora/resources/indexed_numbers.h>
@@ -104,6 +105,8 @@ void CheckIndexes(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     // A fresh scratch folder per discipline: rebuilds write companion files of other types.
     const ScratchFolder scratch("lumora-check");
+    // The rebuilds' files are compared and thrown away: none of them needs to reach the disk.
+    const DeferredFlush never_flushed(scratch.path());
     if (scratch.path().empty()) {
       report.Warning(root.Relative(d.discipline->dataFolder),
                      "no scratch folder could be made: the index files are not compared with a "

@@ -8,9 +8,11 @@
 #include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <limits>
+#include <map>
 #include <set>
 #include <string>
 
@@ -59,19 +61,31 @@ void CheckTitles(const PackageList& packages, const TranslationList& translation
   }
 }
 
-bool Indexed(const Discipline& discipline, uint32_t type, uint32_t resource_id) {
-  const TypeIndex* index =
-      discipline.resourceIndex ? discipline.resourceIndex->FindType(type) : nullptr;
-  const auto numbers = index ? NumbersOf(*index) : std::nullopt;
-  if (!numbers) return false;
-  for (uint32_t number : numbers->numbers) {
-    if (NumberOf(number) == NumberOf(resource_id)) return true;
+// The resource numbers each type's index lists, gathered on first use.
+class IndexedResources {
+ public:
+  explicit IndexedResources(const Discipline& discipline) : discipline_(discipline) {}
+
+  bool Lists(uint32_t type, uint32_t resource_id) {
+    auto [numbers, added] = types_.try_emplace(type);
+    if (added) {
+      const TypeIndex* index =
+          discipline_.resourceIndex ? discipline_.resourceIndex->FindType(type) : nullptr;
+      if (const auto listed = index ? NumbersOf(*index) : std::nullopt) {
+        for (uint32_t number : listed->numbers) numbers->second.insert(NumberOf(number));
+      }
+    }
+    return numbers->second.count(NumberOf(resource_id)) != 0;
   }
-  return false;
-}
+
+ private:
+  const Discipline& discipline_;
+  std::map<uint32_t, std::set<uint32_t>> types_;
+};
 
 void CheckRows(const Discipline& discipline, const PackageResourceList& rows,
                const std::string& file, CheckReport& report) {
+  IndexedResources indexed(discipline);
   for (uint32_t i = 0; i < rows.size(); ++i) {
     ++report.checked;
     const PackageResourceRecord& row = *rows.ObjectAt(i);
@@ -80,9 +94,9 @@ void CheckRows(const Discipline& discipline, const PackageResourceList& rows,
     const std::string what = PackageName(rows.KeyAt(i)) + " lists resource " + std::to_string(id) +
                              " of type " + std::to_string(type);
     const std::string path = ResourceFilePath(discipline.localRoot, type, id);
-    if (!FileExists(path) && !FileExists(ChangeExtension(path, "arh"))) {
+    if (!FileListed(path) && !FileListed(ChangeExtension(path, "arh"))) {
       report.Error(file, what + ", which has no file: the export reports it and goes on");
-    } else if (!Indexed(discipline, type, id)) {
+    } else if (!indexed.Lists(type, id)) {
       report.Warning(file, what + ", which the type's index does not list");
     }
   }
@@ -122,6 +136,7 @@ void CheckDatabase(const CheckedRoot& root, const Discipline& discipline, CheckR
 void CheckPackages(const CheckedRoot& root, CheckReport& report) {
   // The database layer works inside an initialised apartment, as lmOpen_Database's does.
   ComInitialize();
+  const ListedFiles listed;
   for (const CheckedDiscipline& d : root.disciplines) CheckDatabase(root, *d.discipline, report);
   ComUninitialize();
 }

@@ -2,6 +2,8 @@
 // resource its path names; an ".arh" twin, which the library prefers, decodes too.
 #include <lumora/check/checks.h>
 #include <lumora/check/resource_walk.h>
+#include <lumora/platform/file.h>
+#include <lumora/platform/kept_files.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/paths.h>
@@ -11,8 +13,26 @@
 namespace lumora {
 namespace {
 
+constexpr uint64_t kMostResourceBytes = uint64_t{256} << 20;
+
 std::string IdText(uint32_t course, uint32_t number) {
   return "course " + std::to_string(course) + ", number " + std::to_string(number);
+}
+
+// Index files are rebuilt and media verified from these bytes later in the same check.
+LoadResult ReadAndKeep(const std::string& path, ExerciseResource& resource) {
+  std::string bytes;
+  switch (ReadWholeFile(path, kMostResourceBytes, bytes)) {
+    case WholeFile::kRead:
+      break;
+    case WholeFile::kTooLarge:
+      return LoadResult({path, std::nullopt, "is larger than any resource file can be"});
+    default:
+      return ReadArchiveFile(path, resource);  // says why it cannot be read
+  }
+  KeepFile(path, std::move(bytes));
+  if (const std::string* kept = KeptFile(path)) return ReadArchiveBytes(*kept, resource, path);
+  return ReadArchiveFile(path, resource);
 }
 
 void CheckFile(const CheckedRoot& root, uint32_t type, const WalkedResource& file,
@@ -24,7 +44,7 @@ void CheckFile(const CheckedRoot& root, uint32_t type, const WalkedResource& fil
                    "lies outside a course folder (C and four digits): the library never reads it");
   }
   std::unique_ptr<ExerciseResource> resource = NewResource(type);
-  const LoadResult loaded = ReadArchiveFile(file.path, *resource);
+  const LoadResult loaded = ReadAndKeep(file.path, *resource);
   if (!loaded.ok()) {
     report.Error(relative,
                  "does not decode as type " + std::to_string(type) + " (" +

@@ -1,5 +1,6 @@
 #include <lumora/check/checks.h>
 #include <lumora/check/content_check.h>
+#include <lumora/platform/kept_files.h>
 
 #include <algorithm>
 #include <array>
@@ -13,10 +14,15 @@ struct NamedCheck {
   void (*run)(const CheckedRoot&, CheckReport&);
 };
 
+// In this order: the resource files are read (and kept) before the index files are rebuilt from
+// them and their media verified.
 constexpr std::array kChecks = {
-    NamedCheck{"config", &CheckConfig},       NamedCheck{"index", &CheckIndexes},
-    NamedCheck{"resources", &CheckResources}, NamedCheck{"media", &CheckMedia},
-    NamedCheck{"packages", &CheckPackages},   NamedCheck{"names", &CheckNameCase},
+    NamedCheck{"config", &CheckConfig},        //
+    NamedCheck{"resources", &CheckResources},  //
+    NamedCheck{"index", &CheckIndexes},        //
+    NamedCheck{"media", &CheckMedia},          //
+    NamedCheck{"packages", &CheckPackages},    //
+    NamedCheck{"names", &CheckNameCase},       //
 };
 
 uint64_t CountOf(const CheckReport& report, Severity severity) {
@@ -59,6 +65,9 @@ bool IsCheckName(std::string_view name) {
 
 std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
                                           const CheckOptions& options) {
+  // The resources check reads every resource file once and keeps its bytes: the index rebuilds
+  // and the media check that follow read them from memory.
+  const KeptFiles kept;
   const CheckedRoot root(contentRoot, options);
   std::vector<const NamedCheck*> chosen;
   for (const NamedCheck& check : kChecks) {

@@ -44,8 +44,7 @@ struct CheckOptions {
   const Progress* progress = nullptr;
 };
 
-// The names of the checks, in the order they run: config, sets, index, resources, media,
-// glossary, grammar, classification, packages, names.
+// The names of the checks, in the order they run.
 const std::vector<std::string>& CheckNames();
 bool IsCheckName(std::string_view name);
 

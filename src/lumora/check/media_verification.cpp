@@ -4,6 +4,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/folder_entries.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
@@ -33,8 +34,8 @@ std::vector<uint32_t> CoursesBelow(const std::string& local_root) {
 std::string FileOf(const std::string& local_root, uint32_t type, uint32_t resource_id) {
   const std::string path = ResourceFilePath(local_root, type, resource_id);
   const std::string twin = ChangeExtension(path, "arh");
-  if (FileExists(twin)) return twin;
-  return FileExists(path) ? path : std::string();
+  if (FileListed(twin)) return twin;
+  return FileListed(path) ? path : std::string();
 }
 
 MediaVerification Verify(const std::string& local_root, const ByteArray& quality, uint32_t type,
@@ -53,6 +54,9 @@ std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
                                                   const ResourceIndex& index,
                                                   const ByteArray& qualityFolders,
                                                   std::optional<uint32_t> onlyType) {
+  // Nothing changes in the tree meanwhile: each folder is listed once for every medium and
+  // file looked up in it.
+  const ListedFiles listed;
   const std::vector<uint32_t> courses = CoursesBelow(localRoot);
   std::vector<MediaVerification> results;
   for (uint32_t type : index.types()) {

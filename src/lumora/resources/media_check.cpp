@@ -3,6 +3,7 @@
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace {
 
 bool FolderHoldsCopy(const std::vector<std::string>& candidates) {
   return std::any_of(candidates.begin(), candidates.end(),
-                     [](const std::string& path) { return FileExists(path); });
+                     [](const std::string& path) { return FileListed(path); });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -15,7 +16,7 @@ LoadResult LoadResource(const std::string& local_root, const std::string& chosen
                         ExerciseResource& target, bool fill_media) {
   std::string path = ResourceFilePath(local_root, target.GetType(), resource_id);
   const std::string twin = ChangeExtension(path, "arh");
-  if (FileExists(twin)) path = twin;
+  if (FileListed(twin)) path = twin;
   LoadResult loaded = ReadArchiveFile(path, target);
   if (loaded.ok() && fill_media) target.ResolveMedia(request, local_root, chosen_root);
   return loaded;
@@ -24,7 +25,7 @@ LoadResult LoadResource(const std::string& local_root, const std::string& chosen
 bool ReferencedFileCheck(const std::string& root, uint32_t resource_id, std::string& message) {
   message.clear();
   const std::string path = ResourceFilePath(root, 1005, resource_id);
-  if (!FileExists(path)) message = "\t\tFile not found: " + path + "\n!";
+  if (!FileListed(path)) message = "\t\tFile not found: " + path + "\n!";
   return message.empty();
 }
 

@@ -4,6 +4,7 @@
 #include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type1003.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -38,7 +39,7 @@ bool Type1003Resource::VerifyMedia(const std::string& root, const ByteArray& qua
     if (link.targetType() == 0) continue;  // a record that names no resource
     const std::string path = course + NumberedName('r', link.targetType()) + kPathSeparator +
                              NumberedName('r', link.targetNumber()) + ".ars";
-    if (!FileExists(path)) report += FormatReportLine("\t\tFile not found: %s!\n", path.c_str());
+    if (!FileListed(path)) report += FormatReportLine("\t\tFile not found: %s!\n", path.c_str());
   }
   return report.empty();
 }

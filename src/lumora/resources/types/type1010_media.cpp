@@ -4,6 +4,7 @@
 #include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type1010.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -42,7 +43,7 @@ bool Type1010Resource::VerifyMedia(const std::string& root, const ByteArray& qua
                                ExpectedMediaPath(picture, root, quality_folders).c_str());
   }
   const std::string q3 = Q3PicturePath(root, picture);
-  if (!FileExists(q3)) report += FormatReportLine("File not found: %s!\n", q3.c_str());
+  if (!FileListed(q3)) report += FormatReportLine("File not found: %s!\n", q3.c_str());
   return report.empty();
 }
 

@@ -5,6 +5,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/type19.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <memory>
@@ -33,10 +34,10 @@ bool Type19Resource::VerifyMedia(const std::string& root, const ByteArray& quali
   (void)quality_folders;
   report.clear();
   const std::string picture = PicturePath(root, resource_id);
-  if (!FileExists(picture))
+  if (!FileListed(picture))
     report += FormatReportLine("\t\tFile not found: %s!\n", picture.c_str());
   for (const LinkedFile& file : LinkedResourceFiles(root, records, resource_id)) {
-    if (!FileExists(file.path)) {
+    if (!FileListed(file.path)) {
       report += FormatReportLine("\t\tFile not found: %s!\n", file.path.c_str());
     } else if (!Opens(file.path, file.type)) {
       report += FormatReportLine("\t\tCan not open file: %s!\n", file.path.c_str());

@@ -2,6 +2,7 @@
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/resources/types/type21.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -28,7 +29,7 @@ bool Type21Resource::VerifyMedia(const std::string& root, const ByteArray& quali
     if (!missing.empty()) report += FormatReportLine("\t\tFile noy found: %s!\n", missing.c_str());
   }
   for (const LinkedFile& file : LinkedResourceFiles(root, records, resource_id)) {
-    if (!FileExists(file.path))
+    if (!FileListed(file.path))
       report += FormatReportLine("\t\tFile not found: %s!\n", file.path.c_str());
   }
   return report.empty();

@@ -6,6 +6,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type1003.h>
 #include <lumora/resources/types/type8.h>
+#include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 namespace lumora {
@@ -39,13 +40,13 @@ class VideoFiles {
 void VerifyVideoFiles(const VideoFiles& files, const ByteArray& quality_folders,
                       std::string& report) {
   const std::string video = files.VideoStem();
-  if (!FileExists(video + ".avi") && !FileExists(video + ".mpg")) {
+  if (!FileListed(video + ".avi") && !FileListed(video + ".mpg")) {
     report += FormatReportLine("\t\tFile not found: %s%s!\n", video.c_str(), ".avi");
     report += FormatReportLine("\t\tFile not found: %s%s!\n", video.c_str(), ".mpg");
   }
   for (uint8_t q : quality_folders) {
     const std::string picture = files.QualityFolder(q) + files.PictureName();
-    if (!FileExists(picture))
+    if (!FileListed(picture))
       report += FormatReportLine("\t\tFile not found: %s\n", picture.c_str());
   }
 }
