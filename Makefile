@@ -55,9 +55,10 @@ asan-test: $(ASAN_BUILD)/CMakeCache.txt
 bench: build
 	@for b in $(BUILD)/bench/*_bench; do python3 bench/ratios.py $$b; done
 
-# Each fuzz target runs for FUZZ_SECONDS, starting from seeds written from the sample content;
-# what it finds goes into a working corpus beside them that later runs start from too, and a
-# crashing input into FUZZ_DIR. Needs clang.
+# Each fuzz target runs for FUZZ_SECONDS, starting from seeds written from the sample content and
+# from the broken files of tests/corpus; what it finds goes into a working corpus beside them
+# that later runs start from too, and a crashing input into FUZZ_DIR (minimise it and add it to
+# tests/corpus with the findings it must give). Needs clang.
 FUZZ_DIR   := $(ASAN_BUILD)/fuzz
 
 fuzz: $(ASAN_BUILD)/CMakeCache.txt
@@ -67,6 +68,7 @@ fuzz: $(ASAN_BUILD)/CMakeCache.txt
 	rm -rf $(FUZZ_DIR)/sample $(FUZZ_DIR)/seeds
 	$(ASAN_BUILD)/lumora sample $(FUZZ_DIR)/sample > /dev/null
 	$(FUZZ_DIR)/fuzz_seeds $(FUZZ_DIR)/sample $(FUZZ_DIR)/seeds
+	$(FUZZ_DIR)/fuzz_seeds tests/corpus $(FUZZ_DIR)/seeds
 	@for f in $(FUZZ_DIR)/*_fuzz; do \
 	  t=$$(basename $$f); mkdir -p $(FUZZ_DIR)/corpus/$$t; \
 	  echo "fuzzing $$t for $(FUZZ_SECONDS) s"; \

@@ -1,5 +1,6 @@
-// fuzz_seeds SAMPLE OUT: writes the seed corpus of every fuzz target into OUT/<target>/ from
-// the content tree that `lumora sample SAMPLE` wrote.
+// fuzz_seeds TREE OUT: writes the seed corpus of every fuzz target into OUT/<target>/ from the
+// content tree that `lumora sample TREE` wrote, or from the broken files of tests/corpus (laid
+// out as in a content tree). Seeds of several trees can go into one OUT.
 #include <cstdio>
 #include <filesystem>
 

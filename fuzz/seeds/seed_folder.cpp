@@ -4,8 +4,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
+#include <string_view>
 
 namespace seeds {
 
@@ -47,7 +49,11 @@ TargetSeeds::~TargetSeeds() {
 
 void TargetSeeds::Add(const Bytes& seed) {
   if (!written_.insert(seed).second) return;
-  std::ofstream out(folder_ / ("seed-" + std::to_string(written_.size())), std::ios::binary);
+  // Named by content, so that seeds written from several trees into one folder never collide.
+  const std::string_view text(reinterpret_cast<const char*>(seed.data()), seed.size());
+  char name[32];
+  std::snprintf(name, sizeof name, "seed-%016zx", std::hash<std::string_view>{}(text));
+  std::ofstream out(folder_ / name, std::ios::binary);
   out.write(reinterpret_cast<const char*>(seed.data()), static_cast<std::streamsize>(seed.size()));
 }
 

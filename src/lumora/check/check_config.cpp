@@ -116,8 +116,10 @@ void ReportMissingFolder(const CheckedRoot& root, const std::string& folder,
                          const std::string& what, CheckReport& report) {
   ++report.checked;
   if (FolderExists(folder)) return;
-  report.Error(root.Relative(folder),
-               what + (FileExists(folder) ? " is a file, not a folder" : " does not exist"));
+  const std::string without_separator = folder.substr(0, folder.size() - 1);
+  report.Error(root.Relative(folder), what + (FileExists(without_separator)
+                                                  ? " is a file, not a folder"
+                                                  : " does not exist"));
 }
 
 void CheckRoots(const CheckedRoot& root, CheckReport& report) {
