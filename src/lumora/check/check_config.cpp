@@ -117,9 +117,9 @@ void ReportMissingFolder(const CheckedRoot& root, const std::string& folder,
   ++report.checked;
   if (FolderExists(folder)) return;
   const std::string without_separator = folder.substr(0, folder.size() - 1);
-  report.Error(root.Relative(folder), what + (FileExists(without_separator)
-                                                  ? " is a file, not a folder"
-                                                  : " does not exist"));
+  report.Error(
+      root.Relative(folder),
+      what + (FileExists(without_separator) ? " is a file, not a folder" : " does not exist"));
 }
 
 void CheckRoots(const CheckedRoot& root, CheckReport& report) {
