@@ -11,7 +11,7 @@ step() {
   eval "${2//lumora /\"\$lumora\" }"
 }
 
-rm -rf "$dir" "$dir-rebuilt" "$dir-logs" "$dir-export"
+rm -rf "$dir" "$dir-rebuilt" "$dir-logs" "$dir-export" "$dir-broken"
 step "Version" 'lumora --version'
 step "Write a sample content root" 'lumora sample $dir'
 step "Its configuration" 'cat $dir/Content.ini'
@@ -38,6 +38,10 @@ step "Its file: the groups, then the usage table (numbers 1 and 2, each 0x0100: 
   'od -An -tx1 $dir/D001/r0000005.ari'
 step "Verify discipline 1's media and links: problems are planted on purpose (type 8 #3 asks about paragraph 9 of a three-paragraph video, type 19 #3 has a position without its word, type 1006 #3 and one element per unit name pictures never delivered)" \
   'lumora verify $dir -d 1 || true'
+step "Check the whole root: every file read as the library reads it; only the planted media problems come up" \
+  'lumora check $dir || true'
+step "Cut a resource file short in a copy of the root: the check says at which byte it ends" \
+  'cp -r $dir $dir-broken; head -c 30 $dir/D001/C0001/r0000005/r0000001.ars > $dir-broken/D001/C0001/r0000005/r0000001.ars; lumora check $dir-broken -d 1 --checks resources || true; lumora resource $dir-broken -d 1 --type 5 --id 0x100001 || true; rm -rf $dir-broken'
 step "Rebuild the type-7 index from its resource files into a scratch folder" \
   'lumora rebuild-index $dir -d 1 --type 7 --out $dir-rebuilt'
 step "Discipline 1's grammar: one point with its titles, pictures, subpoints, keywords and bubbles" \

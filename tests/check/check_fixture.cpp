@@ -6,7 +6,7 @@ namespace lumora::testing {
 
 void CheckTest::SetUp() {
   std::string error;
-  ASSERT_TRUE(sample::WriteSampleContent(dir.path(), {1}, &error)) << error;
+  ASSERT_TRUE(sample::WriteSampleContent(dir.path(), {1, false}, &error)) << error;
 }
 
 CheckReport CheckTest::Report(const std::string& name, bool fix_case) const {

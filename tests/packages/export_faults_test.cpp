@@ -61,7 +61,7 @@ class ExportFaults : public testing::LibraryTest {
  protected:
   void SetUp() override {
     std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(source(), {1}, &error)) << error;
+    ASSERT_TRUE(sample::WriteSampleContent(source(), {1, false}, &error)) << error;
     ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
     sourceFiles_ = Snapshot(source());
   }

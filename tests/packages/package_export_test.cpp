@@ -52,7 +52,7 @@ class PackageExport : public testing::LibraryTest {
  protected:
   void SetUp() override {
     std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(source(), {1}, &error)) << error;
+    ASSERT_TRUE(sample::WriteSampleContent(source(), {1, false}, &error)) << error;
   }
 
   std::string source() const { return root() + "source/"; }

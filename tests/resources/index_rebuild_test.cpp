@@ -23,7 +23,7 @@ class IndexRebuild : public ::testing::Test {
  protected:
   void SetUp() override {
     std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(root.path(), {1}, &error)) << error;
+    ASSERT_TRUE(sample::WriteSampleContent(root.path(), {1, false}, &error)) << error;
     ASSERT_TRUE(lmOpen(root.path().c_str(), 1));
     localRoot = FindDiscipline(1)->localRoot;
     dataFolder = FindDiscipline(1)->dataFolder;

@@ -43,7 +43,7 @@ constexpr uint32_t kOpenDisciplines[] = {1, 2, 3};
 
 void WriteSample(const TempDir& dir, int scale) {
   std::string error;
-  ASSERT_TRUE(sample::WriteSampleContent(dir.path(), {scale}, &error)) << error;
+  ASSERT_TRUE(sample::WriteSampleContent(dir.path(), {scale, false}, &error)) << error;
 }
 
 ContentRequest UrlRequest(uint32_t discipline, uint8_t selector = 1) {

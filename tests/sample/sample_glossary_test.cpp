@@ -27,7 +27,7 @@ class SampleGlossary : public LibraryTest {
  protected:
   void SetUp() override {
     std::string error;
-    ASSERT_TRUE(sample::WriteSampleContent(root(), {1}, &error)) << error;
+    ASSERT_TRUE(sample::WriteSampleContent(root(), {1, false}, &error)) << error;
     ASSERT_TRUE(lmOpen(root().c_str(), 0));
   }
 

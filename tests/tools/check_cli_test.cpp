@@ -46,7 +46,7 @@ TEST_F(CheckCli, AnErrorExitsWithOneAndAnUnknownCheckIsAUsageError) {
   const CliResult text = RunCli("check " + root() + " -d 1 --checks resources");
   EXPECT_EQ(text.exit_code, 1);
   EXPECT_NE(text.out.find("resources"), std::string::npos);
-  EXPECT_EQ(text.err, "lumora: 1 errors found\n");
+  EXPECT_EQ(text.err, "lumora: 1 error found\n");
 
   // The resource command gives the same reason.
   const CliResult resource = RunCli("resource " + root() + " -d 1 --type 5 --id 0x100001");

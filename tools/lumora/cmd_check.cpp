@@ -117,7 +117,9 @@ void Run(const Options& options) {
   } else {
     PrintReports(reports);
   }
-  if (errors > 0) throw CommandFailure(std::to_string(errors) + " errors found");
+  if (errors > 0) {
+    throw CommandFailure(std::to_string(errors) + (errors == 1 ? " error" : " errors") + " found");
+  }
 }
 
 void AddCheckCommand(CLI::App& app) {

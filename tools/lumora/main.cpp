@@ -79,6 +79,8 @@ int main(int argc, char** argv) {
     app.exit(e);
     return kExitUsage;
   } catch (const std::exception& e) {
+    // What the command printed comes before the reason it failed, also when both go to a pipe.
+    std::fflush(stdout);
     std::fprintf(stderr, "lumora: %s\n", e.what());
     return kExitFailure;
   }

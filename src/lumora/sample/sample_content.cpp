@@ -62,6 +62,7 @@ bool WriteSampleContent(const std::string& dir, const SampleOptions& options, st
   for (const SampleDiscipline& d : kSampleDisciplines) {
     if (!WriteDiscipline(root + DisciplineFolder(d.id), d, options.scale, error)) return false;
   }
+  if (!options.durable) return true;
   const WriteStatus flushed = flush.Finish();
   if (!flushed.ok()) *error = flushed.ToString();
   return flushed.ok();

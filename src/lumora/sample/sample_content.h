@@ -15,6 +15,9 @@ struct SampleOptions {
   // Units of content per discipline, 1 to kMaxScale: each adds twelve resource files per
   // discipline (eight type-1005 elements and four type-40 exercises).
   int scale = 1;
+  // Whether the tree is flushed to disk once written. A test's tree, gone when the test ends,
+  // need not wait for the disk.
+  bool durable = true;
 };
 
 // Writes the content root into `dir` (created if missing); the same options always give the
