@@ -61,11 +61,16 @@ bool IsDisciplineSectionName(const std::string& name) {
          });
 }
 
+// "3, 5 and 9"; past five lines, the first five and how many more.
 std::string Lines(const std::vector<int>& lines) {
+  constexpr size_t kShown = 5;
+  const size_t shown = std::min(lines.size(), kShown);
   std::string text;
-  for (size_t i = 0; i < lines.size(); ++i) {
-    text += (i == 0 ? "" : i + 1 == lines.size() ? " and " : ", ") + std::to_string(lines[i]);
+  for (size_t i = 0; i < shown; ++i) {
+    const bool last = i + 1 == shown && lines.size() <= kShown;
+    text += (i == 0 ? "" : last ? " and " : ", ") + std::to_string(lines[i]);
   }
+  if (lines.size() > kShown) text += " and " + std::to_string(lines.size() - kShown) + " more";
   return text;
 }
 

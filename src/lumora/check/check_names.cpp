@@ -92,7 +92,12 @@ class NameWalk {
   void Walk(const std::string& folder, int depth) {
     if (!visited_.insert(folder).second) return;
     const auto entries = ListFolder(folder);
-    if (!entries) return;
+    if (!entries) {
+      if (FolderExists(folder)) {
+        report_.Warning(root_.Relative(folder), "cannot be listed: nothing below it is checked");
+      }
+      return;
+    }
     for (const FolderEntry& entry : *entries) {
       ++report_.checked;
       std::string name = entry.name;
