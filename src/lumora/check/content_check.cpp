@@ -4,25 +4,34 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 namespace lumora {
 namespace {
 
+// When a check runs: the first ones in turn on the calling thread, then the others, one of them
+// on a second thread while the rest run on the calling one. Nothing the later checks share
+// changes once the first are done: the resource files they read are kept, and no check writes.
+enum class Lane { kFirst, kSecondThread, kAfter };
+
 struct NamedCheck {
   const char* name;
   void (*run)(const CheckedRoot&, CheckReport&);
+  Lane lane;
 };
 
 // In this order: the resource files are read (and kept) before the index files are rebuilt from
-// them and their media verified.
+// them and their media verified. The media check, the longest, has the second thread.
 constexpr std::array kChecks = {
-    NamedCheck{"config", &CheckConfig},        //
-    NamedCheck{"resources", &CheckResources},  //
-    NamedCheck{"index", &CheckIndexes},        //
-    NamedCheck{"media", &CheckMedia},          //
-    NamedCheck{"packages", &CheckPackages},    //
-    NamedCheck{"names", &CheckNameCase},       //
+    NamedCheck{"config", &CheckConfig, Lane::kFirst},
+    NamedCheck{"resources", &CheckResources, Lane::kFirst},
+    NamedCheck{"index", &CheckIndexes, Lane::kAfter},
+    NamedCheck{"media", &CheckMedia, Lane::kSecondThread},
+    NamedCheck{"packages", &CheckPackages, Lane::kAfter},
+    NamedCheck{"names", &CheckNameCase, Lane::kAfter},
 };
 
 uint64_t CountOf(const CheckReport& report, Severity severity) {
@@ -67,22 +76,45 @@ std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
                                           const CheckOptions& options) {
   // The resources check reads every resource file once and keeps its bytes: the index rebuilds
   // and the media check that follow read them from memory.
-  const KeptFiles kept;
+  KeptFiles kept;
   const CheckedRoot root(contentRoot, options);
   std::vector<const NamedCheck*> chosen;
   for (const NamedCheck& check : kChecks) {
     if (Chosen(options, check.name)) chosen.push_back(&check);
   }
+  std::vector<CheckReport> reports(chosen.size());
   const Progress none;
   const Progress& progress = options.progress != nullptr ? *options.progress : none;
   progress.SetRange(static_cast<uint32_t>(chosen.size()));
-  std::vector<CheckReport> reports;
-  for (const NamedCheck* check : chosen) {
-    CheckReport& report = reports.emplace_back();
-    report.name = check->name;
-    check->run(root, report);
-    progress.SetPosition(static_cast<uint32_t>(reports.size()));
+  std::mutex progress_lock;
+  uint32_t done = 0;
+  auto run = [&](Lane lane) {
+    for (size_t i = 0; i < chosen.size(); ++i) {
+      if (chosen[i]->lane != lane) continue;
+      reports[i].name = chosen[i]->name;
+      chosen[i]->run(root, reports[i]);
+      const std::lock_guard<std::mutex> guard(progress_lock);
+      progress.SetPosition(++done);
+    }
+  };
+  run(Lane::kFirst);
+  std::exception_ptr failed;
+  std::thread second([&] {
+    try {
+      const KeptFilesView view(kept);
+      run(Lane::kSecondThread);
+    } catch (...) {
+      failed = std::current_exception();
+    }
+  });
+  try {
+    run(Lane::kAfter);
+  } catch (...) {
+    second.join();
+    throw;
   }
+  second.join();
+  if (failed) std::rethrow_exception(failed);
   return reports;
 }
 

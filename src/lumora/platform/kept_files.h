@@ -31,10 +31,28 @@ class KeptFiles {
   friend const std::string* KeptFile(const std::string&);
   friend void ForgetKeptFile(const std::string&);
 
+  friend class KeptFilesView;
+
   std::unordered_map<std::string, std::string> files_;
   size_t bytes_ = 0;
   size_t most_bytes_;
   KeptFiles* previous_;
+};
+
+// Lets the calling thread read what another thread's KeptFiles holds, for work split across
+// threads once the files are kept: LoadArchiveFile on this thread then loads them from memory
+// too. Nothing is kept or forgotten through a view, so that the threads only ever read the kept
+// files; the KeptFiles must outlive the view and not change while it lives.
+class KeptFilesView {
+ public:
+  explicit KeptFilesView(KeptFiles& shared);
+  ~KeptFilesView();
+  KeptFilesView(const KeptFilesView&) = delete;
+  KeptFilesView& operator=(const KeptFilesView&) = delete;
+
+ private:
+  KeptFiles* previous_;
+  bool previousViewing_;
 };
 
 }  // namespace lumora
