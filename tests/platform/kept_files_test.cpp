@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <thread>
 
 #include "fixtures/temp_dir.h"
 
@@ -61,6 +62,23 @@ TEST(KeptFiles, KeepsNothingPastItsLimit) {
   KeepFile("b", "56");
   EXPECT_EQ(*KeptFile("a"), "12");
   EXPECT_EQ(*KeptFile("b"), "56");
+}
+
+// Work split across threads reads what one thread kept, and can neither add to it nor take
+// from it.
+TEST(KeptFiles, AViewOnAnotherThreadReadsWhatWasKeptAndChangesNothing) {
+  KeptFiles kept;
+  KeepFile("a", "kept");
+  std::thread([&kept] {
+    EXPECT_EQ(KeptFile("a"), nullptr) << "no view yet";
+    const KeptFilesView view(kept);
+    ASSERT_NE(KeptFile("a"), nullptr);
+    EXPECT_EQ(*KeptFile("a"), "kept");
+    KeepFile("b", "new");
+    ForgetKeptFile("a");
+  }).join();
+  EXPECT_EQ(KeptFile("b"), nullptr);
+  ASSERT_NE(KeptFile("a"), nullptr);
 }
 
 }  // namespace
