@@ -14,10 +14,11 @@ struct NamedCheck {
 };
 
 constexpr std::array kChecks = {
-    NamedCheck{"config", &CheckConfig},
-    NamedCheck{"index", &CheckIndexes},
-    NamedCheck{"resources", &CheckResources},
-    NamedCheck{"names", &CheckNameCase},
+    NamedCheck{"config", &CheckConfig},        // Content.ini and the roots it names
+    NamedCheck{"index", &CheckIndexes},        // index files against resource files
+    NamedCheck{"resources", &CheckResources},  // every resource file decodes
+    NamedCheck{"glossary", &CheckGlossary},    // words, links, order, indexes, sounds
+    NamedCheck{"names", &CheckNameCase},       // names that differ only in case
 };
 
 uint64_t CountOf(const CheckReport& report, Severity severity) {
