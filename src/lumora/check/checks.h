@@ -11,6 +11,7 @@ void CheckConfig(const CheckedRoot& root, CheckReport& report);
 void CheckIndexes(const CheckedRoot& root, CheckReport& report);
 void CheckResources(const CheckedRoot& root, CheckReport& report);
 void CheckGlossary(const CheckedRoot& root, CheckReport& report);
+void CheckGrammar(const CheckedRoot& root, CheckReport& report);
 void CheckNameCase(const CheckedRoot& root, CheckReport& report);
 
 }  // namespace lumora

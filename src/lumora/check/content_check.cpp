@@ -18,6 +18,7 @@ constexpr std::array kChecks = {
     NamedCheck{"index", &CheckIndexes},        // index files against resource files
     NamedCheck{"resources", &CheckResources},  // every resource file decodes
     NamedCheck{"glossary", &CheckGlossary},    // words, links, order, indexes, sounds
+    NamedCheck{"grammar", &CheckGrammar},      // links, picture folders, resource files
     NamedCheck{"names", &CheckNameCase},       // names that differ only in case
 };
 
