@@ -14,12 +14,13 @@ struct NamedCheck {
 };
 
 constexpr std::array kChecks = {
-    NamedCheck{"config", &CheckConfig},        // Content.ini and the roots it names
-    NamedCheck{"index", &CheckIndexes},        // index files against resource files
-    NamedCheck{"resources", &CheckResources},  // every resource file decodes
-    NamedCheck{"glossary", &CheckGlossary},    // words, links, order, indexes, sounds
-    NamedCheck{"grammar", &CheckGrammar},      // links, picture folders, resource files
-    NamedCheck{"names", &CheckNameCase},       // names that differ only in case
+    NamedCheck{"config", &CheckConfig},                  // Content.ini and the roots it names
+    NamedCheck{"index", &CheckIndexes},                  // index files against resource files
+    NamedCheck{"resources", &CheckResources},            // every resource file decodes
+    NamedCheck{"glossary", &CheckGlossary},              // words, links, order, indexes, sounds
+    NamedCheck{"grammar", &CheckGrammar},                // links, picture folders, resource files
+    NamedCheck{"classification", &CheckClassification},  // tables, class numbers used
+    NamedCheck{"names", &CheckNameCase},                 // names that differ only in case
 };
 
 uint64_t CountOf(const CheckReport& report, Severity severity) {
