@@ -9,11 +9,11 @@
 // the grammar resource file r<attrD, seven digits>.ars there.
 #include <lumora/check/checks.h>
 #include <lumora/check/load_stop.h>
+#include <lumora/platform/ascii_text.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>
 
-#include <cctype>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -45,12 +45,11 @@ void CheckLinks(const CheckedRoot& root, const CGramV6& g, CheckReport& report) 
   }
 }
 
+// Exports copy the .swf files of a picture folder in any letter case.
 bool IsSwf(const FolderEntry& entry) {
   const std::string& name = entry.name;
-  if (!entry.isFile || name.size() < 4) return false;
-  std::string extension = name.substr(name.size() - 4);
-  for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return extension == ".swf";
+  return entry.isFile && name.size() >= 4 &&
+         EqualsIgnoringCase(name.substr(name.size() - 4), ".swf");
 }
 
 bool HoldsSwf(const std::string& folder) {
