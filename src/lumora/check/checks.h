@@ -12,6 +12,9 @@ void CheckIndexes(const CheckedRoot& root, CheckReport& report);
 void CheckResources(const CheckedRoot& root, CheckReport& report);
 void CheckMedia(const CheckedRoot& root, CheckReport& report);
 void CheckPackages(const CheckedRoot& root, CheckReport& report);
+void CheckGlossary(const CheckedRoot& root, CheckReport& report);
+void CheckGrammar(const CheckedRoot& root, CheckReport& report);
+void CheckClassification(const CheckedRoot& root, CheckReport& report);
 void CheckNameCase(const CheckedRoot& root, CheckReport& report);
 
 }  // namespace lumora

@@ -30,6 +30,9 @@ constexpr std::array kChecks = {
     NamedCheck{"resources", &CheckResources, Lane::kFirst},
     NamedCheck{"index", &CheckIndexes, Lane::kAfter},
     NamedCheck{"media", &CheckMedia, Lane::kSecondThread},
+    NamedCheck{"glossary", &CheckGlossary, Lane::kAfter},
+    NamedCheck{"grammar", &CheckGrammar, Lane::kAfter},
+    NamedCheck{"classification", &CheckClassification, Lane::kAfter},
     NamedCheck{"packages", &CheckPackages, Lane::kAfter},
     NamedCheck{"names", &CheckNameCase, Lane::kAfter},
 };

@@ -17,10 +17,17 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace lumora {
 
 class Classification;
+
+// Which table stopped the load of a glossary or a grammar; empty when every table loaded.
+struct LexiconLoad {
+  std::u16string_view glossaryStop;
+  std::u16string_view grammarStop;
+};
 
 class Discipline : public Object {
  public:
@@ -37,7 +44,8 @@ class Discipline : public Object {
             const std::string& folder);
   // The rest, for a discipline that stays open: glossary and grammar from course 0 below the
   // local root, the glossary pointed at `classification` and given the language of Param.
-  void LoadLexicon(Classification& classification);
+  // Answers which tables stopped the two loads; the open goes on with what was loaded.
+  LexiconLoad LoadLexicon(Classification& classification);
   // The empty lessons and testable objects of the diagnosis library, loaded on the host's
   // request.
   void MakeDiagnosisData();

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -68,6 +69,9 @@ class Classification {
   // Sets `folder` (with a trailing separator) and reads the five tables from it in order,
   // stopping at the first that fails.
   bool load(const std::string& folder_path);
+  // load, answering which table stopped it: the name of the first table that failed, empty
+  // when all five loaded.
+  std::u16string_view LoadStoppedAt(const std::string& folder_path);
   // Writes the five tables into `folder` in the same order; false when any could not be saved.
   bool save();
   // The separator is appended unless the text is empty or already ends in one.

@@ -9,11 +9,16 @@
 namespace lumora {
 namespace {
 
+// Reads one table, or names it in `stop` when it fails.
 template <typename Record>
-bool ReadTable(const Classification& owner, std::u16string_view name, SetTable<Record>& table) {
+bool ReadTable(const Classification& owner, std::u16string_view name, SetTable<Record>& table,
+               std::u16string_view& stop) {
   uint32_t version = 0;
-  return ReadSetTable(owner.folder, name, SetFamily::kClassification, table, &version) &&
-         version == owner.formatVersion;
+  const bool read_ok =
+      ReadSetTable(owner.folder, name, SetFamily::kClassification, table, &version) &&
+      version == owner.formatVersion;
+  if (!read_ok) stop = name;
+  return read_ok;
 }
 
 }  // namespace
@@ -23,12 +28,20 @@ void Classification::SetFolder(const std::string& folder_path) {
 }
 
 bool Classification::load(const std::string& folder_path) {
+  return LoadStoppedAt(folder_path).empty();
+}
+
+std::u16string_view Classification::LoadStoppedAt(const std::string& folder_path) {
   SetFolder(folder_path);
   FolderReadScope scope(folder);
-  return ReadTable(*this, u"t_FamSem", famSem) && ReadTable(*this, u"t_CatGram", catGram) &&
-         ReadTable(*this, u"t_GrammarPoint_Category", grammarPointCategories) &&
-         ReadTable(*this, u"t_Verb_Tense", verbTenses) &&
-         ReadTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions);
+  std::u16string_view stop;
+  // Each table is read only when every one before it was.
+  (void)(ReadTable(*this, u"t_FamSem", famSem, stop) &&
+         ReadTable(*this, u"t_CatGram", catGram, stop) &&
+         ReadTable(*this, u"t_GrammarPoint_Category", grammarPointCategories, stop) &&
+         ReadTable(*this, u"t_Verb_Tense", verbTenses, stop) &&
+         ReadTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions, stop));
+  return stop;
 }
 
 // The five tables replace the old ones in one commit, or none does.

@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -30,6 +31,9 @@ class CGloV6 : public CGloBase {
   // through their index when one exists; stops at the first that fails (false), leaving the
   // tables read before it loaded.
   bool load(const std::string& folder);
+  // load, answering which table stopped it: the name of the first table that failed, empty
+  // when all ten loaded.
+  std::u16string_view LoadStoppedAt(const std::string& folder);
   // Sets `folder` only, with the separator appended unless empty or already there.
   void setFolder(const std::string& folder);
   // Writes the ten tables into `folder` in the same order; stops at the first that fails.

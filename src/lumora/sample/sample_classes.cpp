@@ -61,8 +61,17 @@ constexpr Category kCategories[] = {
       u"副詞"}},
 };
 
-constexpr Label kGrammarPointCategories[] = {
-    {100, u"Tenses", 1}, {200, u"Articles", 2}, {300, u"Pronouns", 3}, {400, u"Word order", 4}};
+// Numbered like the grammar's subpoint categories divided by 10000: a category of the grammar
+// and its subcategories.
+constexpr Label kGrammarPointCategories[] = {{100, u"Articles and questions", 1},
+                                             {101, u"Definite article", 2},
+                                             {102, u"Indefinite article", 3},
+                                             {103, u"Questions", 4},
+                                             {200, u"Verbs", 5},
+                                             {201, u"Regular verbs", 6},
+                                             {202, u"Irregular verbs", 7},
+                                             {300, u"Pronouns", 8},
+                                             {400, u"Word order", 9}};
 
 constexpr Label kVerbTenses[] = {{1, u"Present", 1},
                                  {2, u"Past simple", 2},

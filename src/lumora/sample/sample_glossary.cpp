@@ -7,6 +7,7 @@
 #include <lumora/support/paths.h>
 
 #include <array>
+#include <iterator>
 #include <span>
 #include <vector>
 
@@ -25,7 +26,8 @@ constexpr uint32_t kGlossaryFolder = 1001;
 constexpr uint8_t kHeadword = 1;
 constexpr uint8_t kSubEntry = 2;
 constexpr uint8_t kClassifiedWord = 2;  // attrC of the words whose classes are listed
-constexpr uint32_t kSoundQuality = 2;
+constexpr uint32_t kSoundQuality = 2;   // the quality a sound record lists
+constexpr uint32_t kQualityFolders[] = {1, 2, 3};
 constexpr size_t kWordsPerLesson = 40;
 constexpr uint16_t kLessonLink = 1;
 constexpr uint16_t kOppositeLink = 3;
@@ -151,11 +153,14 @@ bool WriteSoundFile(const CGloV6& g, uint32_t quality, uint16_t word, std::strin
                         "sample sound " + std::to_string(word) + "\n", error);
 }
 
-// The sound of every recorded word, in the quality folder the index asks for.
+// The sound of every recorded word in every quality folder: the index lists the words whose
+// sounds are all there, and the host may ask for any quality.
 bool WriteSoundFiles(const CGloV6& g, std::string* error) {
   for (const GloSoundRecord& sound : g.sounds) {
     if (sound.status != GloSoundRecord::kPresentStatus) continue;
-    if (!WriteSoundFile(g, kSoundQuality, sound.fnId, error)) return false;
+    for (uint32_t quality : kQualityFolders) {
+      if (!WriteSoundFile(g, quality, sound.fnId, error)) return false;
+    }
   }
   return true;
 }
@@ -167,7 +172,7 @@ bool WriteLessonSounds(const CGloV6& g, std::string* error) {
     const auto [first, last] = g.links.Range({lesson, 0u}, {lesson + 1, 0u});
     for (auto link = first; link != last; ++link) {
       if (g.sounds.Find(link->attrB) == nullptr) continue;
-      for (uint32_t quality : {1u, 2u, 3u}) {
+      for (uint32_t quality : kQualityFolders) {
         if (!WriteSoundFile(g, quality, link->attrB, error)) return false;
       }
     }
@@ -193,10 +198,11 @@ bool WriteSampleGlossary(const std::string& root, uint8_t language, bool withInd
     *error = "cannot create " + glossary.folder;
     return false;
   }
-  if (!WriteLessonSounds(glossary, error) || (withIndex && !WriteSoundFiles(glossary, error))) {
+  // Every recorded word takes in the lessons' words.
+  if (!(withIndex ? WriteSoundFiles(glossary, error) : WriteLessonSounds(glossary, error))) {
     return false;
   }
-  const std::vector<uint32_t> qualities = {kSoundQuality};
+  const std::vector<uint32_t> qualities(std::begin(kQualityFolders), std::end(kQualityFolders));
   if (!glossary.save(withIndex, withIndex ? qualities : std::vector<uint32_t>{})) {
     *error = "cannot write the glossary in " + glossary.folder;
     return false;

@@ -13,7 +13,7 @@ namespace lumora::sample {
 // Saves the glossary into its folder below the discipline's Local root `root`, through the
 // library, with the checksums in the folder's CRCFile.ini. `language` is the course language
 // (French, German or English; any other gets the English words). `withIndex` also writes the
-// sound and recognition indexes, and the quality-2 sound files they require.
+// sound and recognition indexes, and the sound files they require in every quality folder.
 bool WriteSampleGlossary(const std::string& root, uint8_t language, bool withIndex,
                          std::string* error);
 
