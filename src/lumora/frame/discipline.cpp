@@ -23,12 +23,14 @@ void Discipline::Open(ProfileFile& ini, const std::string& content_root,
   }
 }
 
-void Discipline::LoadLexicon(Classification& classification) {
+LexiconLoadResult Discipline::LoadLexicon(Classification& classification) {
   // A missing glossary or grammar leaves it empty; queries then find nothing in it.
-  glossary.load(LexiconFolder(localRoot, 1001));
+  LexiconLoadResult loaded;
+  loaded.glossary = glossary.LoadWithReason(LexiconFolder(localRoot, 1001));
   if (glossary.classification == nullptr) glossary.classification = &classification;
   glossary.language = static_cast<uint8_t>(info.Param);
-  grammar.load(LexiconFolder(localRoot, 1002));
+  loaded.grammar = grammar.LoadWithReason(LexiconFolder(localRoot, 1002));
+  return loaded;
 }
 
 void Discipline::MakeDiagnosisData() {

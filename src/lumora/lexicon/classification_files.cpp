@@ -10,10 +10,17 @@ namespace lumora {
 namespace {
 
 template <typename Record>
-bool ReadTable(const Classification& owner, std::u16string_view name, SetTable<Record>& table) {
+LoadResult ReadClassTable(const Classification& owner, std::u16string_view name,
+                          SetTable<Record>& table) {
   uint32_t version = 0;
-  return ReadSetTable(owner.folder, name, SetFamily::kClassification, table, &version) &&
-         version == owner.formatVersion;
+  LoadResult result = LoadSetTable(owner.folder, name, SetFamily::kClassification, table, &version);
+  if (result.ok() && version != owner.formatVersion) {
+    return LoadResult({SetFilePath(owner.folder, name), 0,
+                       "version " + std::to_string(version) +
+                           " is not the classification's format version " +
+                           std::to_string(owner.formatVersion)});
+  }
+  return result;
 }
 
 }  // namespace
@@ -22,13 +29,23 @@ void Classification::SetFolder(const std::string& folder_path) {
   folder = WithBackslash(folder_path);
 }
 
-bool Classification::load(const std::string& folder_path) {
+LoadResult Classification::LoadWithReason(const std::string& folder_path) {
   SetFolder(folder_path);
   FolderReadScope scope(folder);
-  return ReadTable(*this, u"t_FamSem", famSem) && ReadTable(*this, u"t_CatGram", catGram) &&
-         ReadTable(*this, u"t_GrammarPoint_Category", grammarPointCategories) &&
-         ReadTable(*this, u"t_Verb_Tense", verbTenses) &&
-         ReadTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions);
+  LoadResult result;
+  auto read = [&](std::u16string_view name, auto& table) {
+    result = ReadClassTable(*this, name, table);
+    return result.ok();
+  };
+  read(u"t_FamSem", famSem) && read(u"t_CatGram", catGram) &&
+      read(u"t_GrammarPoint_Category", grammarPointCategories) &&
+      read(u"t_Verb_Tense", verbTenses) &&
+      read(u"t_Expression_SyntacticFunction", syntacticFunctions);
+  return result;
+}
+
+bool Classification::load(const std::string& folder_path) {
+  return LoadWithReason(folder_path).ok();
 }
 
 // The five tables replace the old ones in one commit, or none does.

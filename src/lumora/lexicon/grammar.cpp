@@ -23,13 +23,18 @@ bool CGramV6::ForEachTable(Visit&& visit) {
          visit(u"t_Gr_Bubbles", bubbles);
 }
 
-bool CGramV6::load(const std::string& folder_path) {
+LoadResult CGramV6::LoadWithReason(const std::string& folder_path) {
   setFolder(folder_path);
   FolderReadScope scope(folder);
-  return ForEachTable([this](std::u16string_view name, auto& table) {
-    return ReadSetTable(folder, name, SetFamily::kGrammar, table);
+  LoadResult result;
+  ForEachTable([&](std::u16string_view name, auto& table) {
+    result = LoadSetTable(folder, name, SetFamily::kGrammar, table);
+    return result.ok();
   });
+  return result;
 }
+
+bool CGramV6::load(const std::string& folder_path) { return LoadWithReason(folder_path).ok(); }
 
 void CGramV6::setFolder(const std::string& folder_path) { folder = WithBackslash(folder_path); }
 
