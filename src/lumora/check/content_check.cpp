@@ -14,9 +14,8 @@ struct NamedCheck {
 };
 
 constexpr std::array kChecks = {
-    NamedCheck{"config", &CheckConfig},
-    NamedCheck{"index", &CheckIndexes},
-    NamedCheck{"resources", &CheckResources},
+    NamedCheck{"config", &CheckConfig},  NamedCheck{"sets", &CheckSets},
+    NamedCheck{"index", &CheckIndexes},  NamedCheck{"resources", &CheckResources},
     NamedCheck{"names", &CheckNameCase},
 };
 

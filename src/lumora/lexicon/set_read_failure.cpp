@@ -6,10 +6,6 @@
 namespace lumora {
 namespace {
 
-// Version and record count.
-constexpr uint64_t kSetHeaderSize = 8;
-constexpr uint64_t kCountOffset = 4;
-
 std::string AcceptedVersions(SetFamily family) {
   switch (family) {
     case SetFamily::kGlossary:
@@ -42,16 +38,18 @@ LoadFailure RefusedSetVersion(const std::string& path, SetFamily family, uint32_
 LoadFailure SetReadError(const std::string& path, const Archive& ar, const SetRecordCursor& cursor,
                          const std::exception& error) {
   const uint64_t at = ar.Position();
-  const bool at_end = ar.Available() == 0;
   if (!cursor.counted) {
-    if (at < kSetHeaderSize) {
-      return {path, at, "the file ends inside its header (version and record count)"};
-    }
-    return {path, kCountOffset,
-            "the record count " + std::to_string(cursor.count) + " is larger than the " +
-                std::to_string(ar.Available()) + " bytes after it can hold"};
+    return {path, at, "the file ends inside its header (version and record count)"};
   }
-  if (at_end) return {path, at, "the file ends inside " + RecordOfCount(cursor)};
+  if (ar.Available() == 0) {
+    // Nothing of the record was there: the count promised more than the file holds.
+    if (at == cursor.recordStart) {
+      return {path, at,
+              "the file holds " + std::to_string(cursor.record - 1) + " of the " +
+                  std::to_string(cursor.count) + " records its count gives"};
+    }
+    return {path, at, "the file ends inside " + RecordOfCount(cursor)};
+  }
   if (dynamic_cast<const ArchiveError*>(&error) != nullptr) {
     return {path, at,
             RecordOfCount(cursor) + ", gives a length that runs past the end of the file"};

@@ -20,8 +20,9 @@ LoadFailure UnopenedSetFile(const std::string& path);
 LoadFailure RefusedSetVersion(const std::string& path, SetFamily family, uint32_t version);
 
 // `error` thrown while the archive read the header or the records that `cursor` followed: a
-// file that ends inside its header or a record, a record count or a stored length larger than
-// the rest of the file (the same whether the length or the file is damaged).
+// file that ends inside its header or inside a record, that holds fewer records than its count
+// gives, or a stored length larger than the rest of the file (the same whether the length or
+// the file is damaged).
 LoadFailure SetReadError(const std::string& path, const Archive& ar, const SetRecordCursor& cursor,
                          const std::exception& error);
 

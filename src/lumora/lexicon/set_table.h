@@ -25,7 +25,7 @@ namespace lumora {
 // Where a read of a table's records stands, so that a file that fails can be reported by
 // record: a damaged file says which record and byte it went wrong at.
 struct SetRecordCursor {
-  bool counted = false;      // the record count was read and the file can hold that many
+  bool counted = false;      // the record count was read
   uint32_t count = 0;        // the record count the file gives
   uint32_t record = 0;       // the record being read, counting from 1; 0 before the first
   uint64_t recordStart = 0;  // the byte where that record starts
@@ -33,12 +33,11 @@ struct SetRecordCursor {
 
 // Reads the u32 record count, then that many records in file order, handing each to
 // `each(Record&&)`. `cursor` follows the read, so that it says where an error thrown from here
-// happened.
+// happened. Every record takes at least one byte, so a count larger than the file can hold
+// ends in an end-of-file error after at most as many records as the file has bytes.
 template <typename Record, typename Each>
 void ReadSetRecords(Archive& ar, uint32_t schema, SetRecordCursor& cursor, Each&& each) {
   cursor.count = ar.ReadU32();
-  // Every record takes at least one byte, so a count beyond the bytes left is a damaged file.
-  ar.Require(cursor.count);
   cursor.counted = true;
   for (uint32_t i = 0; i < cursor.count; ++i) {
     cursor.record = i + 1;
@@ -113,8 +112,10 @@ class SetTable {
   }
   void ReadRecords(Archive& ar, uint32_t schema, SetRecordCursor& cursor) {
     records_.clear();
-    ReadSetRecords<Record>(ar, schema, cursor, [this, &cursor](Record&& record) {
-      if (cursor.record == 1) records_.reserve(cursor.count);
+    ReadSetRecords<Record>(ar, schema, cursor, [this, &cursor, &ar](Record&& record) {
+      // Room for as many records as the file can still hold, at most the count it gives.
+      if (cursor.record == 1)
+        records_.reserve(std::min<uint64_t>(cursor.count, ar.Available() + 1));
       Insert(std::move(record));
     });
   }
