@@ -17,11 +17,6 @@ namespace {
 
 constexpr const char* kIni = "Content.ini";
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 // The sections and key lines of the file as written, with their line numbers (from 1).
 struct Layout {
   struct Section {
@@ -49,7 +44,7 @@ Layout LayoutOf(const ProfileFile& ini) {
     if (layout.sections.empty()) {
       layout.keysBeforeAnySection.push_back(number);
     } else {
-      layout.sections.back().keys[Lower(line.substr(0, equals))].push_back(number);
+      layout.sections.back().keys[LowerAscii(line.substr(0, equals))].push_back(number);
     }
   }
   return layout;
@@ -84,7 +79,7 @@ KeysRead ReadKeys(ProfileFile& ini, std::initializer_list<const char*> keys) {
     std::string value = ini.GetString(key);
     const std::string& line = ini.lines[static_cast<size_t>(ini.cursor)];
     if (StartsWithIgnoringCase(line, std::string(key) + "=")) {
-      read[Lower(key)] = {ini.cursor + 1, std::move(value)};
+      read[LowerAscii(key)] = {ini.cursor + 1, std::move(value)};
     }
   }
   return read;
@@ -181,7 +176,7 @@ void CheckConfig(const CheckedRoot& root, CheckReport& report) {
   std::map<std::string, std::vector<int>> headers;
   for (const Layout::Section& section : layout.sections) {
     ++report.checked;
-    headers[Lower(section.name)].push_back(section.line);
+    headers[LowerAscii(section.name)].push_back(section.line);
     if (IsDisciplineSectionName(section.name) &&
         numbers_read.count(static_cast<uint32_t>(std::stoi(section.name))) == 0) {
       report.Warning(kIni,
@@ -190,7 +185,7 @@ void CheckConfig(const CheckedRoot& root, CheckReport& report) {
                          DisciplineSectionName(static_cast<uint32_t>(numbers_read.size()) + 1) +
                          "]): the library never reads it");
     }
-    const auto keys_read = read.find(Lower(section.name));
+    const auto keys_read = read.find(LowerAscii(section.name));
     ReportRepeatedKeys(section, keys_read == read.end() ? KeysRead{} : keys_read->second, report);
   }
   for (const auto& [name, lines] : headers) {

@@ -3,12 +3,12 @@
 // names, then misses the file. With fixCase each is renamed to the name looked for, unless
 // that name is taken.
 #include <lumora/check/checks.h>
+#include <lumora/platform/ascii_text.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>
 
 #include <stdio.h>
 
-#include <cctype>
 #include <cerrno>
 #include <cstring>
 #include <optional>
@@ -26,18 +26,13 @@ struct NamePattern {
   std::string (*spelled)(const std::string& found);
 };
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 // The first letter as given, the rest of the name as found but with a lowercase extension.
 template <char kFirst>
 std::string FirstLetterAndLowerExtension(const std::string& found) {
   std::string name = found;
   name[0] = kFirst;
   const size_t dot = name.rfind('.');
-  if (dot != std::string::npos) name = name.substr(0, dot) + Lower(name.substr(dot));
+  if (dot != std::string::npos) name = name.substr(0, dot) + LowerAscii(name.substr(dot));
   return name;
 }
 

@@ -3,11 +3,18 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace lumora {
 
 inline char FoldAsciiCase(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+
+// `text` with its ASCII letters in lower case.
+inline std::string LowerAscii(std::string text) {
+  for (char& c : text) c = FoldAsciiCase(c);
+  return text;
+}
 
 inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
