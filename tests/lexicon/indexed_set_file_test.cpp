@@ -52,7 +52,8 @@ class IndexedSetFile : public ::testing::Test {
   }
   bool Load(bool with_index) {
     return LoadIndexedSetTable(dir.path(), u"t_Glo_Sounds", with_index, sounds, indexVersion,
-                               offsets);
+                               offsets)
+        .ok();
   }
 
   testing::TempDir dir;

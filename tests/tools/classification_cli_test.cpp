@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include <lumora/platform/profile.h>
 #include <lumora/sample/sample_classes.h>
 #include "fixtures/run_cli.h"
 #include "fixtures/temp_dir.h"
@@ -54,7 +55,9 @@ TEST_F(ClassificationCli, CheckSetsReportsGoodChangedUnlistedShortAndRefusedFile
                                          {"version", 1},
                                          {"records", 9},
                                          {"checksum", "good"},
-                                         {"versionAccepted", true}}));
+                                         {"versionAccepted", true},
+                                         {"decoded", true},
+                                         {"reason", nullptr}}));
 
   std::string changed = dir.Read("Classes/t_FamSem.set");
   changed.back() ^= 1;
@@ -74,7 +77,10 @@ TEST_F(ClassificationCli, CheckSetsReportsGoodChangedUnlistedShortAndRefusedFile
   EXPECT_EQ(by_table["t_Glo_Words"]["checksum"], "unlisted");
   EXPECT_EQ(by_table["t_Glo_Words"]["version"], 99);
   EXPECT_EQ(by_table["t_Glo_Words"]["versionAccepted"], true);
+  EXPECT_EQ(by_table["t_Glo_Words"]["decoded"], nullptr);
   EXPECT_EQ(by_table["t_Gr_Points"]["versionAccepted"], false);
+  EXPECT_EQ(by_table["t_Gr_Points"]["reason"],
+            "at byte 0: version 2 is refused: grammar tables take 1 and below");
   EXPECT_EQ(by_table["t_Short"]["checksum"], "bad");
   EXPECT_TRUE(by_table["t_Short"]["version"].is_null());
 
@@ -84,6 +90,25 @@ TEST_F(ClassificationCli, CheckSetsReportsGoodChangedUnlistedShortAndRefusedFile
   EXPECT_EQ(CheckSets(1).size(), 6u);
   std::filesystem::remove(classes + "t_Gr_Points.set");
   EXPECT_EQ(CheckSets(0).size(), 5u);
+}
+
+// A file cut inside a record whose checksum nobody recorded has a good header and nothing to
+// compare: only reading its records shows the damage.
+TEST_F(ClassificationCli, CheckSetsDecodesTheRecordsOfKnownTables) {
+  std::string categories = dir.Read("Classes/t_CatGram.set");
+  categories.resize(14);
+  dir.Write("Classes/t_CatGram.set", categories);
+  ASSERT_TRUE(profile::WriteString(classes + "CRCFile.ini", "Main", "t_CatGram.set", "0"));
+  const nlohmann::json checks = CheckSets(1);
+  EXPECT_EQ(checks[0]["checksum"], "unlisted");
+  EXPECT_EQ(checks[0]["decoded"], false);
+  EXPECT_EQ(checks[0]["reason"],
+            "at byte 14: the file ends inside record 1 of 9, which starts at byte 8");
+  const CliResult text = RunCli("check-sets '" + classes + "'");
+  EXPECT_EQ(text.out.substr(0, text.out.find('\n', text.out.find('\n') + 1) + 1),
+            "t_CatGram                        version 1  records 9  checksum unlisted\n"
+            "    does not load: at byte 14: the file ends inside record 1 of 9, which starts at "
+            "byte 8\n");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // `lumora check-sets FOLDER [--json]`: the header and checksum state of every set file of a
-// folder, so that a damaged or hand-edited table is found before a load silently skips it.
-// Exits with 1 when any file is bad or has a version its family refuses.
+// folder and, for the tables the library reads, whether the file decodes record by record, so
+// that a damaged or hand-edited table is found before a load silently skips it. Exits with 1
+// when any file is bad, has a version its family refuses or does not decode.
 #include <lumora/lexicon/set_file_check.h>
 
 #include <nlohmann/json.hpp>
@@ -38,18 +39,30 @@ nlohmann::ordered_json CheckJson(const SetFileCheck& check) {
   json["records"] = check.hasHeader ? nlohmann::ordered_json(check.records) : nullptr;
   json["checksum"] = ChecksumName(check.checksum);
   json["versionAccepted"] = check.versionAccepted;
+  // Null for a table whose layout the library does not know.
+  json["decoded"] = check.decode ? nlohmann::ordered_json(check.decode->result.ok()) : nullptr;
+  json["reason"] = check.decode && !check.decode->result.ok()
+                       ? nlohmann::ordered_json(check.decode->result.failure().Details())
+                       : nullptr;
   return json;
+}
+
+void PrintReason(const SetFileCheck& check) {
+  if (check.decode && !check.decode->result.ok()) {
+    std::printf("    does not load: %s\n", check.decode->result.failure().Details().c_str());
+  }
 }
 
 void PrintLine(const SetFileCheck& check) {
   if (!check.hasHeader) {
     std::printf("%-32s too short for a header  checksum %s\n", check.table.c_str(),
                 ChecksumName(check.checksum));
-    return;
+  } else {
+    std::printf("%-32s version %u%s  records %u  checksum %s\n", check.table.c_str(), check.version,
+                check.versionAccepted ? "" : " (refused)", check.records,
+                ChecksumName(check.checksum));
   }
-  std::printf("%-32s version %u%s  records %u  checksum %s\n", check.table.c_str(), check.version,
-              check.versionAccepted ? "" : " (refused)", check.records,
-              ChecksumName(check.checksum));
+  PrintReason(check);
 }
 
 void Run(const Options& options) {
@@ -71,8 +84,8 @@ void Run(const Options& options) {
 
 void AddCheckSetsCommand(CLI::App& app) {
   auto options = std::make_shared<Options>();
-  auto* command =
-      app.add_subcommand("check-sets", "Check the version, count and checksum of set files");
+  auto* command = app.add_subcommand("check-sets",
+                                     "Check the version, count, checksum and records of set files");
   command->add_option("FOLDER", options->folder, "Folder holding .set files and CRCFile.ini")
       ->required();
   command->add_flag("--json", options->json, "Print a JSON array instead of text");

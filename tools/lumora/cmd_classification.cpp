@@ -1,5 +1,6 @@
 // `lumora classification ROOT [--json]`: the five classification tables that opening ROOT
 // loads, the grammatical categories with the label each interface language gets.
+#include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
 #include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>
@@ -82,6 +83,9 @@ void Run(const Options& options) {
   // Opening sets the folder before it loads anything, even when no discipline opens.
   if (classification.folder.empty()) {
     throw CommandFailure("cannot read the configuration of " + options.root);
+  }
+  if (const auto failure = ClassificationLoadFailure()) {
+    throw CommandFailure(FailureText(options.root, *failure));
   }
   const nlohmann::ordered_json json = ClassificationJson(classification);
   if (options.json) {

@@ -1,5 +1,6 @@
 // `lumora glossary ROOT -d ID (find TEXT | word FNID | letters | by-letter) [--json]`: a
 // discipline's glossary as the host sees it.
+#include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
 
 #include <cstdint>
@@ -21,6 +22,10 @@ void Run(const GlossaryOptions& options, Printer print) {
   const ContentRequest request = RequestFor(options.discipline, ParsePathKind(options.pathKind));
   const CGloV6* glossary = lmGetGlossary(&request);
   if (glossary == nullptr) throw CommandFailure("discipline has no glossary");
+  // A glossary that stopped loading at a table would answer as if those words did not exist.
+  if (const auto failure = GlossaryLoadFailure(options.discipline)) {
+    throw CommandFailure(FailureText(options.root, *failure));
+  }
   print(*glossary, options);
 }
 

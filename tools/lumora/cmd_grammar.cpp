@@ -1,5 +1,6 @@
 // `lumora grammar ROOT -d ID (point P | find TEXT --language L | levels | categories)
 // [--first ID --second ID] [--json]`: a discipline's grammar as the host sees it.
+#include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
 
 #include <memory>
@@ -18,6 +19,10 @@ void Run(const GrammarOptions& options, Printer print) {
   const ContentRequest request = RequestFor(options.discipline);
   const CGramV6* grammar = lmGetGrammar(&request);
   if (grammar == nullptr) throw CommandFailure("discipline has no grammar");
+  // A grammar that stopped loading at a table would answer as if those points did not exist.
+  if (const auto failure = GrammarLoadFailure(options.discipline)) {
+    throw CommandFailure(FailureText(options.root, *failure));
+  }
   print(*grammar, options);
 }
 

@@ -84,8 +84,8 @@ void CheckSubpointCategories(const CheckedRoot& root, const CGramV6& g, CheckRep
 
 void CheckClassification(const CheckedRoot& root, CheckReport& report) {
   if (!root.iniLoaded) return;
-  if (ReportLoadStop(root, root.classification.folder, "classification", root.classificationStop,
-                     u"t_FamSem", report)) {
+  if (ReportLoadStop(root, root.classification.folder, "classification", root.classificationLoad,
+                     "t_FamSem", report)) {
     return;
   }
   for (const CheckedDiscipline& d : root.disciplines) {

@@ -74,7 +74,7 @@ std::string WordText(const CGloV6& g, uint16_t fnId) {
 void CheckGlossary(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     const CGloV6& g = d.discipline->glossary;
-    if (ReportLoadStop(root, g.folder, "glossary", d.lexicon.glossaryStop, u"t_Glo_FNs", report)) {
+    if (ReportLoadStop(root, g.folder, "glossary", d.lexicon.glossary, "t_Glo_FNs", report)) {
       continue;
     }
     CheckLetters(root, g, report);

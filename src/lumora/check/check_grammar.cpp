@@ -108,7 +108,7 @@ void CheckResourceFiles(const CheckedRoot& root, const CGramV6& g, CheckReport& 
 void CheckGrammar(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     const CGramV6& g = d.discipline->grammar;
-    if (ReportLoadStop(root, g.folder, "grammar", d.lexicon.grammarStop, u"t_Gr_Points", report)) {
+    if (ReportLoadStop(root, g.folder, "grammar", d.lexicon.grammar, "t_Gr_Points", report)) {
       continue;
     }
     CheckLinks(root, g, report);

@@ -11,15 +11,15 @@ CheckedRoot::CheckedRoot(const std::string& content_root, const CheckOptions& op
   iniLoaded = ini.Load(iniPath);
   if (!iniLoaded) return;
   common = ReadCommonRoots(ini, root);
-  classificationStop = classification.LoadStoppedAt(ClassesFolder(common.local));
+  classificationLoad = classification.LoadWithReason(ClassesFolder(common.local));
   for (uint32_t n = 1; ini.FindSection(DisciplineSectionName(n)); ++n) {
     const uint32_t id = ReadDisciplineId(ini);
     if (options.disciplineFilter != 0 && id != options.disciplineFilter) continue;
     auto discipline = std::make_unique<Discipline>();
     discipline->Open(ini, root, common.local, DisciplineFolder(id));
     if (discipline->info.Type != 0) continue;
-    const LexiconLoad lexicon = discipline->LoadLexicon(classification);
-    disciplines.push_back({n, id, std::move(discipline), lexicon});
+    LexiconLoadResult lexicon = discipline->LoadLexicon(classification);
+    disciplines.push_back({n, id, std::move(discipline), std::move(lexicon)});
   }
 }
 

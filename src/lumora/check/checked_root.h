@@ -21,7 +21,7 @@ struct CheckedDiscipline {
   uint32_t section = 0;  // n of section "%03d"
   uint32_t id = 0;
   std::unique_ptr<Discipline> discipline;
-  LexiconLoad lexicon;  // where the glossary and grammar loads stopped, if they did
+  LexiconLoadResult lexicon;  // how the glossary and grammar loads went
 };
 
 class CheckedRoot {
@@ -42,7 +42,7 @@ class CheckedRoot {
   ProfileFile ini;  // as loaded; the searches' cursor is the checks' to move
   CommonRoots common;
   Classification classification;
-  std::u16string_view classificationStop;      // the table that stopped its load; empty when none
+  LoadResult classificationLoad;               // how the classification's load went
   std::vector<CheckedDiscipline> disciplines;  // Type 0 and the filter's, in section order
 
  private:

@@ -8,6 +8,7 @@
 namespace lumora {
 
 void CheckConfig(const CheckedRoot& root, CheckReport& report);
+void CheckSets(const CheckedRoot& root, CheckReport& report);
 void CheckIndexes(const CheckedRoot& root, CheckReport& report);
 void CheckResources(const CheckedRoot& root, CheckReport& report);
 void CheckMedia(const CheckedRoot& root, CheckReport& report);

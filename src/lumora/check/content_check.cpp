@@ -27,6 +27,7 @@ struct NamedCheck {
 // them and their media verified. The media check, the longest, has the second thread.
 constexpr std::array kChecks = {
     NamedCheck{"config", &CheckConfig, Lane::kFirst},
+    NamedCheck{"sets", &CheckSets, Lane::kFirst},
     NamedCheck{"resources", &CheckResources, Lane::kFirst},
     NamedCheck{"index", &CheckIndexes, Lane::kAfter},
     NamedCheck{"media", &CheckMedia, Lane::kSecondThread},

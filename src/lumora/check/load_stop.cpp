@@ -1,14 +1,14 @@
 #include <lumora/check/load_stop.h>
-#include <lumora/platform/utf8.h>
+#include <lumora/support/paths.h>
 
 namespace lumora {
 
 bool ReportLoadStop(const CheckedRoot& root, const std::string& folder, std::string_view what,
-                    std::u16string_view stop, std::u16string_view first, CheckReport& report) {
-  if (stop.empty()) return false;
-  const std::string table = Utf16ToUtf8(stop);
+                    const LoadResult& load, std::string_view first, CheckReport& report) {
+  if (load.ok()) return false;
+  const std::string table = FileTitle(load.failure().file);
   const std::string kind(what);
-  if (stop == first) {
+  if (table == first) {
     report.Error(root.Relative(folder), "the " + kind + " does not load (table " + table +
                                             " fails; the sets check says why): the library "
                                             "answers every " +

@@ -11,10 +11,10 @@
 
 namespace lumora {
 
-// Reports the load of `what` ("glossary", ...) from `folder` when it stopped at `stop`, the table
-// that failed (empty when every table loaded); `first` names the table every load reads first.
-// True when it stopped.
+// Reports the load of `what` ("glossary", ...) from `folder` when it failed: `load` names the
+// file of the table that stopped it; `first` names the table every load reads first. True when
+// it stopped.
 bool ReportLoadStop(const CheckedRoot& root, const std::string& folder, std::string_view what,
-                    std::u16string_view stop, std::u16string_view first, CheckReport& report);
+                    const LoadResult& load, std::string_view first, CheckReport& report);
 
 }  // namespace lumora

@@ -23,14 +23,14 @@ void Discipline::Open(ProfileFile& ini, const std::string& content_root,
   }
 }
 
-LexiconLoad Discipline::LoadLexicon(Classification& classification) {
+LexiconLoadResult Discipline::LoadLexicon(Classification& classification) {
   // A missing glossary or grammar leaves it empty; queries then find nothing in it.
-  LexiconLoad load;
-  load.glossaryStop = glossary.LoadStoppedAt(LexiconFolder(localRoot, 1001));
+  LexiconLoadResult loaded;
+  loaded.glossary = glossary.LoadWithReason(LexiconFolder(localRoot, 1001));
   if (glossary.classification == nullptr) glossary.classification = &classification;
   glossary.language = static_cast<uint8_t>(info.Param);
-  load.grammarStop = grammar.LoadStoppedAt(LexiconFolder(localRoot, 1002));
-  return load;
+  loaded.grammar = grammar.LoadWithReason(LexiconFolder(localRoot, 1002));
+  return loaded;
 }
 
 void Discipline::MakeDiagnosisData() {

@@ -9,6 +9,7 @@
 #include <lumora/lexicon/grammar.h>
 #include <lumora/packages/database_connection.h>
 #include <lumora/platform/keyed_table.h>
+#include <lumora/platform/load_result.h>
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/support/profile_file.h>
@@ -17,16 +18,16 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace lumora {
 
 class Classification;
 
-// Which table stopped the load of a glossary or a grammar; empty when every table loaded.
-struct LexiconLoad {
-  std::u16string_view glossaryStop;
-  std::u16string_view grammarStop;
+// What loading a discipline's glossary and grammar came to: each fails at its first table that
+// does not load.
+struct LexiconLoadResult {
+  LoadResult glossary;
+  LoadResult grammar;
 };
 
 class Discipline : public Object {
@@ -44,8 +45,7 @@ class Discipline : public Object {
             const std::string& folder);
   // The rest, for a discipline that stays open: glossary and grammar from course 0 below the
   // local root, the glossary pointed at `classification` and given the language of Param.
-  // Answers which tables stopped the two loads; the open goes on with what was loaded.
-  LexiconLoad LoadLexicon(Classification& classification);
+  LexiconLoadResult LoadLexicon(Classification& classification);
   // The empty lessons and testable objects of the diagnosis library, loaded on the host's
   // request.
   void MakeDiagnosisData();

@@ -6,8 +6,10 @@
 #include <lumora/frame/discipline.h>
 #include <lumora/lexicon/classification.h>
 #include <lumora/platform/keyed_table.h>
+#include <lumora/platform/load_result.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 
 namespace lumora {
@@ -18,6 +20,10 @@ struct LibraryState {
   std::string commonUNC;
   std::string commonURL;
   Classification classification;
+  // Why the last open's loads failed, kept for tools to tell; emptied by the close. By
+  // discipline identifier, for the discipline that lookups by that identifier find.
+  std::map<uint32_t, LexiconLoadResult> lexiconLoads;
+  LoadResult classificationLoad;
 };
 
 LibraryState& Library();

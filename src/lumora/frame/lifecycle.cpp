@@ -32,9 +32,12 @@ void OpenDiscipline(ProfileFile& ini, const std::string& root, uint32_t id) {
   if (discipline.info.Type != 0) {
     ReleaseConnectionAndIndex(discipline);
     library.registry.RemoveKey(id);
+    library.lexiconLoads.erase(id);
     return;
   }
-  discipline.LoadLexicon(library.classification);
+  // A second section with the same identifier is registered behind the first, which every
+  // lookup finds: its reasons are the ones kept.
+  library.lexiconLoads.try_emplace(id, discipline.LoadLexicon(library.classification));
   discipline.MakeDiagnosisData();
 }
 
@@ -51,7 +54,8 @@ bool Open(const char* content_root, uint32_t filter) {
   library.commonLocal = std::move(common.local);
   library.commonUNC = std::move(common.unc);
   library.commonURL = std::move(common.url);
-  library.classification.load(ClassesFolder(library.commonLocal));
+  library.classificationLoad =
+      library.classification.LoadWithReason(ClassesFolder(library.commonLocal));
 
   for (uint32_t n = 1; ini.FindSection(DisciplineSectionName(n)); ++n) {
     const uint32_t id = ReadDisciplineId(ini);
@@ -64,6 +68,8 @@ bool Open(const char* content_root, uint32_t filter) {
 void Close() {
   LibraryState& library = Library();
   library.classification.Clear();
+  library.classificationLoad = LoadResult();
+  library.lexiconLoads.clear();
   for (uint32_t i = 0; i < library.registry.size(); ++i) {
     Discipline* discipline = library.registry.ObjectAt(i);
     if (discipline != nullptr) ReleaseConnectionAndIndex(*discipline);

@@ -9,11 +9,11 @@
 
 #include <lumora/lexicon/class_records.h>
 #include <lumora/lexicon/set_table.h>
+#include <lumora/platform/load_result.h>
 
 #include <cstdint>
 #include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -69,9 +69,8 @@ class Classification {
   // Sets `folder` (with a trailing separator) and reads the five tables from it in order,
   // stopping at the first that fails.
   bool load(const std::string& folder_path);
-  // load, answering which table stopped it: the name of the first table that failed, empty
-  // when all five loaded.
-  std::u16string_view LoadStoppedAt(const std::string& folder_path);
+  // load, saying which table failed, where in its file and why.
+  LoadResult LoadWithReason(const std::string& folder_path);
   // Writes the five tables into `folder` in the same order; false when any could not be saved.
   bool save();
   // The separator is appended unless the text is empty or already ends in one.

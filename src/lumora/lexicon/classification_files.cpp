@@ -9,16 +9,18 @@
 namespace lumora {
 namespace {
 
-// Reads one table, or names it in `stop` when it fails.
 template <typename Record>
-bool ReadTable(const Classification& owner, std::u16string_view name, SetTable<Record>& table,
-               std::u16string_view& stop) {
+LoadResult ReadClassTable(const Classification& owner, std::u16string_view name,
+                          SetTable<Record>& table) {
   uint32_t version = 0;
-  const bool read_ok =
-      ReadSetTable(owner.folder, name, SetFamily::kClassification, table, &version) &&
-      version == owner.formatVersion;
-  if (!read_ok) stop = name;
-  return read_ok;
+  LoadResult result = LoadSetTable(owner.folder, name, SetFamily::kClassification, table, &version);
+  if (result.ok() && version != owner.formatVersion) {
+    return LoadResult({SetFilePath(owner.folder, name), 0,
+                       "version " + std::to_string(version) +
+                           " is not the classification's format version " +
+                           std::to_string(owner.formatVersion)});
+  }
+  return result;
 }
 
 }  // namespace
@@ -27,21 +29,23 @@ void Classification::SetFolder(const std::string& folder_path) {
   folder = WithBackslash(folder_path);
 }
 
-bool Classification::load(const std::string& folder_path) {
-  return LoadStoppedAt(folder_path).empty();
-}
-
-std::u16string_view Classification::LoadStoppedAt(const std::string& folder_path) {
+LoadResult Classification::LoadWithReason(const std::string& folder_path) {
   SetFolder(folder_path);
   FolderReadScope scope(folder);
-  std::u16string_view stop;
-  // Each table is read only when every one before it was.
-  (void)(ReadTable(*this, u"t_FamSem", famSem, stop) &&
-         ReadTable(*this, u"t_CatGram", catGram, stop) &&
-         ReadTable(*this, u"t_GrammarPoint_Category", grammarPointCategories, stop) &&
-         ReadTable(*this, u"t_Verb_Tense", verbTenses, stop) &&
-         ReadTable(*this, u"t_Expression_SyntacticFunction", syntacticFunctions, stop));
-  return stop;
+  LoadResult result;
+  auto read = [&](std::u16string_view name, auto& table) {
+    result = ReadClassTable(*this, name, table);
+    return result.ok();
+  };
+  read(u"t_FamSem", famSem) && read(u"t_CatGram", catGram) &&
+      read(u"t_GrammarPoint_Category", grammarPointCategories) &&
+      read(u"t_Verb_Tense", verbTenses) &&
+      read(u"t_Expression_SyntacticFunction", syntacticFunctions);
+  return result;
+}
+
+bool Classification::load(const std::string& folder_path) {
+  return LoadWithReason(folder_path).ok();
 }
 
 // The five tables replace the old ones in one commit, or none does.

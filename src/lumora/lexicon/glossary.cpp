@@ -26,39 +26,35 @@ std::string CGloBase::getErrors() const {
   return all;
 }
 
-bool CGloV6::load(const std::string& folder_path) { return LoadStoppedAt(folder_path).empty(); }
-
-std::u16string_view CGloV6::LoadStoppedAt(const std::string& folder_path) {
+LoadResult CGloV6::LoadWithReason(const std::string& folder_path) {
   setFolder(folder_path);
-  std::u16string_view stop;
   FolderReadScope scope(folder);
+  LoadResult result;
   // A table that reads its set file leaves the version it was read with; one that fails before
   // its version was accepted, or reads only its index, leaves the previous one.
   auto read = [&](std::u16string_view name, auto& table) {
     auto version = static_cast<uint32_t>(setVersion);
-    const bool read_ok = ReadSetTable(folder, name, SetFamily::kGlossary, table, &version);
+    result = LoadSetTable(folder, name, SetFamily::kGlossary, table, &version);
     setVersion = static_cast<int32_t>(version);
-    if (!read_ok) stop = name;
-    return read_ok;
+    return result.ok();
   };
   auto read_indexed = [&](std::u16string_view name, auto& table, int32_t& index_version,
                           DWordArray& offsets) {
     auto version = static_cast<uint32_t>(setVersion);
-    const bool read_ok =
-        LoadIndexedSetTable(folder, name, false, table, index_version, offsets, &version);
+    result = LoadIndexedSetTable(folder, name, false, table, index_version, offsets, &version);
     setVersion = static_cast<int32_t>(version);
-    if (!read_ok) stop = name;
-    return read_ok;
+    return result.ok();
   };
-  // Each table is read only when every one before it was.
-  (void)(read(u"t_Glo_FNs", fns) && read(u"t_Glo_Writings", writings) &&
-         read(u"t_Glo_Links", links) && read(u"t_Glo_Cloud1600", clouds) &&
-         read_indexed(kSoundTable, sounds, soundIndexVersion, soundIndex) &&
-         read_indexed(kRecoTable, recos, recoIndexVersion, recoIndex) &&
-         read(u"t_Glo_FNTranslations", translations) && read(u"t_Glo_Comments", comments) &&
-         read(u"t_Glo_FNSorted", sorted) && read(u"t_Glo_FNLetter", letters));
-  return stop;
+  read(u"t_Glo_FNs", fns) && read(u"t_Glo_Writings", writings) && read(u"t_Glo_Links", links) &&
+      read(u"t_Glo_Cloud1600", clouds) &&
+      read_indexed(kSoundTable, sounds, soundIndexVersion, soundIndex) &&
+      read_indexed(kRecoTable, recos, recoIndexVersion, recoIndex) &&
+      read(u"t_Glo_FNTranslations", translations) && read(u"t_Glo_Comments", comments) &&
+      read(u"t_Glo_FNSorted", sorted) && read(u"t_Glo_FNLetter", letters);
+  return result;
 }
+
+bool CGloV6::load(const std::string& folder_path) { return LoadWithReason(folder_path).ok(); }
 
 void CGloV6::setFolder(const std::string& folder_path) { folder = WithBackslash(folder_path); }
 

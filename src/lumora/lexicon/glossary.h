@@ -11,11 +11,11 @@
 #include <lumora/lexicon/glossary_base.h>
 #include <lumora/lexicon/glossary_records.h>
 #include <lumora/lexicon/set_table.h>
+#include <lumora/platform/load_result.h>
 #include <lumora/platform/typed_array.h>
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -31,9 +31,8 @@ class CGloV6 : public CGloBase {
   // through their index when one exists; stops at the first that fails (false), leaving the
   // tables read before it loaded.
   bool load(const std::string& folder);
-  // load, answering which table stopped it: the name of the first table that failed, empty
-  // when all ten loaded.
-  std::u16string_view LoadStoppedAt(const std::string& folder);
+  // load, saying which table failed, where in its file and why.
+  LoadResult LoadWithReason(const std::string& folder);
   // Sets `folder` only, with the separator appended unless empty or already there.
   void setFolder(const std::string& folder);
   // Writes the ten tables into `folder` in the same order; stops at the first that fails.

@@ -23,19 +23,18 @@ bool CGramV6::ForEachTable(Visit&& visit) {
          visit(u"t_Gr_Bubbles", bubbles);
 }
 
-bool CGramV6::load(const std::string& folder_path) { return LoadStoppedAt(folder_path).empty(); }
-
-std::u16string_view CGramV6::LoadStoppedAt(const std::string& folder_path) {
+LoadResult CGramV6::LoadWithReason(const std::string& folder_path) {
   setFolder(folder_path);
   FolderReadScope scope(folder);
-  std::u16string_view stop;
+  LoadResult result;
   ForEachTable([&](std::u16string_view name, auto& table) {
-    const bool read_ok = ReadSetTable(folder, name, SetFamily::kGrammar, table);
-    if (!read_ok) stop = name;
-    return read_ok;
+    result = LoadSetTable(folder, name, SetFamily::kGrammar, table);
+    return result.ok();
   });
-  return stop;
+  return result;
 }
+
+bool CGramV6::load(const std::string& folder_path) { return LoadWithReason(folder_path).ok(); }
 
 void CGramV6::setFolder(const std::string& folder_path) { folder = WithBackslash(folder_path); }
 

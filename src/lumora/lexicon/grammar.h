@@ -7,10 +7,10 @@
 #include <lumora/lexicon/grammar_base.h>
 #include <lumora/lexicon/grammar_records.h>
 #include <lumora/lexicon/set_table.h>
+#include <lumora/platform/load_result.h>
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
@@ -25,9 +25,8 @@ class CGramV6 : public CGramBase {
   // Sets `folder`, then reads the nine tables in file order; stops at the first that fails
   // (false), leaving the tables read before it loaded.
   bool load(const std::string& folder);
-  // load, answering which table stopped it: the name of the first table that failed, empty
-  // when all nine loaded.
-  std::u16string_view LoadStoppedAt(const std::string& folder);
+  // load, saying which table failed, where in its file and why.
+  LoadResult LoadWithReason(const std::string& folder);
   // Sets `folder` only, with the separator appended unless empty or already there.
   void setFolder(const std::string& folder);
   // Writes the nine tables into `folder` in the same order; stops at the first that fails.

@@ -1,5 +1,6 @@
 #include <lumora/lexicon/indexed_set_file.h>
 #include <lumora/lexicon/read_to_end.h>
+#include <lumora/lexicon/set_read_failure.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/profile.h>
 #include <lumora/platform/stream.h>
@@ -48,22 +49,32 @@ void StageSetIndexVersion(FolderCommit& commit, std::u16string_view name) {
   commit.SetListValue(IndexVersionKey(name), std::to_string(kUsableRecordsIndexVersion));
 }
 
-bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
-                  DWordArray& offsets) {
+LoadResult LoadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
+                        DWordArray& offsets) {
+  const std::string path = SetIndexPath(folder, name);
   const int32_t recorded = ReadSetIndexVersion(folder, name);
-  if (recorded >= kFirstRefusedIndexVersion) return false;
+  if (recorded >= kFirstRefusedIndexVersion) {
+    return LoadResult({path, std::nullopt,
+                       "CRCFile.ini gives it version " + std::to_string(recorded) +
+                           ", and indexes of version 100 and above are refused"});
+  }
   version = recorded;
   offsets.RemoveAll();
   std::vector<uint8_t> bytes;
-  if (!ReadWhole(SetIndexPath(folder, name), bytes)) return false;
+  if (!ReadWhole(path, bytes)) return LoadResult(UnopenedSetFile(path));
   offsets.SetSize(static_cast<uint32_t>(bytes.size() / 4));
-  if (offsets.empty()) return true;
+  if (offsets.empty()) return {};
   if constexpr (std::endian::native == std::endian::little) {
     std::memcpy(offsets.data(), bytes.data(), size_t{offsets.size()} * 4);
   } else {
     for (uint32_t i = 0; i < offsets.size(); ++i) offsets[i] = DecodeU32(bytes.data() + 4 * i);
   }
-  return true;
+  return {};
+}
+
+bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
+                  DWordArray& offsets) {
+  return LoadSetIndex(folder, name, version, offsets).ok();
 }
 
 std::string QualityFilePath(const std::string& folder, uint32_t quality, uint32_t word) {

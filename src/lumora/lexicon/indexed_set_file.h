@@ -10,6 +10,7 @@
 #include <lumora/lexicon/set_file_write.h>
 #include <lumora/lexicon/set_table.h>
 #include <lumora/platform/archive.h>
+#include <lumora/platform/load_result.h>
 #include <lumora/platform/stream.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/support/folder_commit.h>
@@ -32,9 +33,11 @@ int32_t ReadSetIndexVersion(const std::string& folder, std::u16string_view name)
 // (version 2).
 void StageSetIndexVersion(FolderCommit& commit, std::u16string_view name);
 
-// Reads the index of `name`: false when its recorded version is 100 or more (then nothing
+// Reads the index of `name`: fails when its recorded version is 100 or more (then nothing
 // changes) or the file cannot be opened. Otherwise `version` takes the recorded version and
 // `offsets` every complete u32 of the file; a partial entry at the end is ignored.
+LoadResult LoadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
+                        DWordArray& offsets);
 bool ReadSetIndex(const std::string& folder, std::u16string_view name, int32_t& version,
                   DWordArray& offsets);
 
@@ -79,13 +82,13 @@ bool FetchSetRecord(const std::string& folder, std::u16string_view name, const D
 // A table read through its index when one exists and `with_index` is false: the offsets and
 // the index version are read and no record is. Otherwise the set file is read whole.
 template <typename Record>
-bool LoadIndexedSetTable(const std::string& folder, std::u16string_view name, bool with_index,
-                         SetTable<Record>& table, int32_t& index_version, DWordArray& offsets,
-                         uint32_t* version_read = nullptr) {
+LoadResult LoadIndexedSetTable(const std::string& folder, std::u16string_view name, bool with_index,
+                               SetTable<Record>& table, int32_t& index_version, DWordArray& offsets,
+                               uint32_t* version_read = nullptr) {
   if (!with_index && FileExists(SetIndexPath(folder, name))) {
-    return ReadSetIndex(folder, name, index_version, offsets);
+    return LoadSetIndex(folder, name, index_version, offsets);
   }
-  return ReadSetTable(folder, name, SetFamily::kGlossary, table, version_read);
+  return LoadSetTable(folder, name, SetFamily::kGlossary, table, version_read);
 }
 
 // Adds the table to `commit`, with its index when `with_index` is true, and index version 2 to

@@ -1,8 +1,8 @@
 #include <lumora/lexicon/read_to_end.h>
 #include <lumora/lexicon/set_file.h>
 #include <lumora/lexicon/set_file_write.h>
+#include <lumora/lexicon/set_read_failure.h>
 #include <lumora/platform/stream.h>
-#include <lumora/support/crc32.h>
 #include <lumora/support/paths.h>
 #include <lumora/support/xcrc_file2.h>
 
@@ -16,15 +16,6 @@ std::vector<uint8_t> ReadWhole(xCRCFile2& file) {
   std::vector<uint8_t> bytes;
   ReadToEnd(file, bytes);
   return bytes;
-}
-
-// Whether the bytes the reader took match the recorded checksum. The file's own running
-// checksum covers everything read from disk; when the records end before the file does, only
-// the part they took counts, so trailing bytes make the table fail as they would for a reader
-// that stops at its last record.
-bool ReadBytesAreGood(const xCRCFile2& file, const std::vector<uint8_t>& bytes, size_t taken) {
-  if (taken == bytes.size()) return file.IsGood();
-  return file.expected() == 0 || Crc32(bytes.data(), taken) == file.expected();
 }
 
 }  // namespace
@@ -49,25 +40,44 @@ std::string SetFilePath(const std::string& folder, std::u16string_view name,
   return folder + SetFileName(name, extension);
 }
 
-bool ReadSetFile(const std::string& path, SetFamily family,
-                 const std::function<void(Archive&, uint32_t version)>& read_records,
-                 uint32_t* version_read) {
+LoadResult LoadSetFile(const std::string& path, SetFamily family,
+                       const SetRecordsReader& read_records, uint32_t* version_read) {
   using namespace open_flags;
   try {
     xCRCFile2 file(true, true);
-    if (!file.Open(path, kRead | kBinary)) return false;
+    if (!file.Open(path, kRead | kBinary)) return LoadResult(UnopenedSetFile(path));
     MemoryStream stream(ReadWhole(file));
     file.Close();
     Archive ar(stream, Archive::Mode::kLoad);
-    const uint32_t version = ar.ReadU32();
-    if (!AcceptsSetVersion(family, version)) return false;
-    if (version_read) *version_read = version;
-    read_records(ar, version);
-    return ReadBytesAreGood(file, stream.bytes(), stream.bytes().size() - ar.Available());
-  } catch (const std::exception&) {
-    // A file that ends inside a record, or a count no file could hold.
-    return false;
+    SetRecordCursor cursor;
+    try {
+      const uint32_t version = ar.ReadU32();
+      if (!AcceptsSetVersion(family, version)) {
+        return LoadResult(RefusedSetVersion(path, family, version));
+      }
+      if (version_read) *version_read = version;
+      read_records(ar, version, cursor);
+    } catch (const std::exception& error) {
+      return LoadResult(SetReadError(path, ar, cursor, error));
+    }
+    return SetChecksumResult(path, stream.bytes(), stream.bytes().size() - ar.Available(),
+                             file.expected(), file.running());
+  } catch (const std::exception& error) {
+    // The whole file did not fit in memory.
+    return LoadResult({path, std::nullopt, error.what()});
   }
+}
+
+bool ReadSetFile(const std::string& path, SetFamily family,
+                 const std::function<void(Archive&, uint32_t version)>& read_records,
+                 uint32_t* version_read) {
+  return LoadSetFile(
+             path, family,
+             [&read_records](Archive& ar, uint32_t version, SetRecordCursor&) {
+               read_records(ar, version);
+             },
+             version_read)
+      .ok();
 }
 
 bool WriteSetFile(const std::string& path, uint32_t version,

@@ -6,6 +6,7 @@
 
 #include <lumora/lexicon/set_table.h>
 #include <lumora/platform/archive.h>
+#include <lumora/platform/load_result.h>
 
 #include <cstdint>
 #include <functional>
@@ -31,10 +32,22 @@ bool AcceptsSetVersion(SetFamily family, uint32_t version);
 std::string SetFilePath(const std::string& folder, std::u16string_view name,
                         std::string_view extension = ".set");
 
+// Reads the records of one set file, the archive at the record count, with the version read;
+// `cursor` is to follow the read (ReadSetRecords) so that a failure names the record.
+using SetRecordsReader = std::function<void(Archive&, uint32_t version, SetRecordCursor& cursor)>;
+
 // Reads the file at `path`: checks its version against `family`, then hands the archive, at
-// the record count, to `read_records` with the version read. True only when everything was
-// read and the checksum of the bytes read matches the recorded one. `version_read` receives
-// the version once it was accepted. Never throws.
+// the record count, to `read_records`. Succeeds only when everything was read and the checksum
+// of the bytes read matches the recorded one; otherwise the failure says where and why: the
+// file is missing, ends inside its header or inside record N, announces more records than it
+// can hold, has a version its family refuses, has bytes after its last record or a checksum
+// other than CRCFile.ini records. `version_read` receives the version once it was accepted.
+// Never throws.
+LoadResult LoadSetFile(const std::string& path, SetFamily family,
+                       const SetRecordsReader& read_records, uint32_t* version_read = nullptr);
+
+// LoadSetFile reduced to whether it succeeded, for readers that read their records without a
+// cursor.
 bool ReadSetFile(const std::string& path, SetFamily family,
                  const std::function<void(Archive&, uint32_t version)>& read_records,
                  uint32_t* version_read = nullptr);
@@ -47,11 +60,20 @@ bool WriteSetFile(const std::string& path, uint32_t version,
 
 // The usual case: one table read from or written to its own set file in `folder`.
 template <typename Record>
+LoadResult LoadSetTable(const std::string& folder, std::u16string_view name, SetFamily family,
+                        SetTable<Record>& table, uint32_t* version_read = nullptr) {
+  return LoadSetFile(
+      SetFilePath(folder, name), family,
+      [&table](Archive& ar, uint32_t version, SetRecordCursor& cursor) {
+        table.ReadRecords(ar, version, cursor);
+      },
+      version_read);
+}
+
+template <typename Record>
 bool ReadSetTable(const std::string& folder, std::u16string_view name, SetFamily family,
                   SetTable<Record>& table, uint32_t* version_read = nullptr) {
-  return ReadSetFile(
-      SetFilePath(folder, name), family,
-      [&table](Archive& ar, uint32_t version) { table.ReadRecords(ar, version); }, version_read);
+  return LoadSetTable(folder, name, family, table, version_read).ok();
 }
 
 template <typename Record>

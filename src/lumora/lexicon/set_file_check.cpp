@@ -53,6 +53,7 @@ SetFileCheck CheckSetFile(const std::string& path) {
   } else {
     check.checksum = file.IsGood() ? SetChecksum::kGood : SetChecksum::kBad;
   }
+  if (const KnownSetTable* table = FindSetTable(check.table)) check.decode = table->decode(path);
   return check;
 }
 

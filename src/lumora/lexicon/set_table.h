@@ -14,12 +14,39 @@
 #include <algorithm>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 // The library's public surface: exported from the shared library.
 #pragma GCC visibility push(default)
 
 namespace lumora {
+
+// Where a read of a table's records stands, so that a file that fails can be reported by
+// record: a damaged file says which record and byte it went wrong at.
+struct SetRecordCursor {
+  bool counted = false;      // the record count was read
+  uint32_t count = 0;        // the record count the file gives
+  uint32_t record = 0;       // the record being read, counting from 1; 0 before the first
+  uint64_t recordStart = 0;  // the byte where that record starts
+};
+
+// Reads the u32 record count, then that many records in file order, handing each to
+// `each(Record&&)`. `cursor` follows the read, so that it says where an error thrown from here
+// happened. Every record takes at least one byte, so a count larger than the file can hold
+// ends in an end-of-file error after at most as many records as the file has bytes.
+template <typename Record, typename Each>
+void ReadSetRecords(Archive& ar, uint32_t schema, SetRecordCursor& cursor, Each&& each) {
+  cursor.count = ar.ReadU32();
+  cursor.counted = true;
+  for (uint32_t i = 0; i < cursor.count; ++i) {
+    cursor.record = i + 1;
+    cursor.recordStart = ar.Position();
+    Record record{};
+    record.Serialize(ar, schema);
+    each(std::move(record));
+  }
+}
 
 template <typename Record>
 class SetTable {
@@ -77,18 +104,20 @@ class SetTable {
     return true;
   }
 
-  // Empties the table, then reads the u32 count and that many records.
+  // Empties the table, then reads the u32 count and that many records; a record whose key came
+  // before is dropped.
   void ReadRecords(Archive& ar, uint32_t schema) {
+    SetRecordCursor cursor;
+    ReadRecords(ar, schema, cursor);
+  }
+  void ReadRecords(Archive& ar, uint32_t schema, SetRecordCursor& cursor) {
     records_.clear();
-    const uint32_t count = ar.ReadU32();
-    // Every record takes at least one byte, so a count beyond the bytes left is a damaged file.
-    ar.Require(count);
-    records_.reserve(count);
-    for (uint32_t i = 0; i < count; ++i) {
-      Record record{};
-      record.Serialize(ar, schema);
+    ReadSetRecords<Record>(ar, schema, cursor, [this, &cursor, &ar](Record&& record) {
+      // Room for as many records as the file can still hold, at most the count it gives.
+      if (cursor.record == 1)
+        records_.reserve(std::min<uint64_t>(cursor.count, ar.Available() + 1));
       Insert(std::move(record));
-    }
+    });
   }
 
   // The u32 count and every record in key order.
