@@ -12,12 +12,16 @@
 #include <stdexcept>
 #include <string>
 
+namespace lumora {
+// Declared before the public region: the streams stay the library's own (hidden), whichever of
+// the two declarations a compiler meets first.
+class Stream;
+}  // namespace lumora
+
 // The library's public surface: exported from the shared library.
 #pragma GCC visibility push(default)
 
 namespace lumora {
-
-class Stream;
 
 class ArchiveError : public std::runtime_error {
  public:
