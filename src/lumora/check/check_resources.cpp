@@ -8,7 +8,10 @@
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/paths.h>
 
+#include <exception>
 #include <string>
+#include <thread>
+#include <vector>
 
 namespace lumora {
 namespace {
@@ -19,56 +22,98 @@ std::string IdText(uint32_t course, uint32_t number) {
   return "course " + std::to_string(course) + ", number " + std::to_string(number);
 }
 
-// Index files are rebuilt and media verified from these bytes later in the same check.
-LoadResult ReadAndKeep(const std::string& path, ExerciseResource& resource) {
+// One resource file: read whole, decoded from its bytes, its findings. The bytes are kept
+// afterwards, on the calling thread, for the index rebuilds and the media check.
+struct FileResult {
+  std::vector<Finding> findings;
   std::string bytes;
-  switch (ReadWholeFile(path, kMostResourceBytes, bytes)) {
+  bool read = false;
+};
+
+struct FileToCheck {
+  uint32_t type;
+  WalkedResource file;
+};
+
+LoadResult ReadAndDecode(const std::string& path, ExerciseResource& resource, FileResult& result) {
+  switch (ReadWholeFile(path, kMostResourceBytes, result.bytes)) {
     case WholeFile::kRead:
-      break;
+      result.read = true;
+      return ReadArchiveBytes(result.bytes, resource, path);
     case WholeFile::kTooLarge:
       return LoadResult({path, std::nullopt, "is larger than any resource file can be"});
     default:
       return ReadArchiveFile(path, resource);  // says why it cannot be read
   }
-  KeepFile(path, std::move(bytes));
-  if (const std::string* kept = KeptFile(path)) return ReadArchiveBytes(*kept, resource, path);
-  return ReadArchiveFile(path, resource);
 }
 
-void CheckFile(const CheckedRoot& root, uint32_t type, const WalkedResource& file,
-               CheckReport& report) {
-  ++report.checked;
+FileResult CheckFile(const CheckedRoot& root, const FileToCheck& item) {
+  FileResult result;
+  const WalkedResource& file = item.file;
   const std::string relative = root.Relative(file.path);
   if (!file.course) {
-    report.Warning(relative,
-                   "lies outside a course folder (C and four digits): the library never reads it");
+    result.findings.push_back(
+        {Severity::kWarning, relative,
+         "lies outside a course folder (C and four digits): the library never reads it"});
   }
-  std::unique_ptr<ExerciseResource> resource = NewResource(type);
-  const LoadResult loaded = ReadAndKeep(file.path, *resource);
+  std::unique_ptr<ExerciseResource> resource = NewResource(item.type);
+  const LoadResult loaded = ReadAndDecode(file.path, *resource, result);
   if (!loaded.ok()) {
-    report.Error(relative,
-                 "does not decode as type " + std::to_string(type) + " (" +
-                     loaded.failure().Details() + ")" +
-                     (file.twin ? ": the library reads this twin before the .ars file" : ""));
-    return;
+    result.findings.push_back(
+        {Severity::kError, relative,
+         "does not decode as type " + std::to_string(item.type) + " (" +
+             loaded.failure().Details() + ")" +
+             (file.twin ? ": the library reads this twin before the .ars file" : "")});
+    return result;
   }
   const uint32_t stored = resource->resourceId;
   if (file.course && (CourseOf(stored) != *file.course || NumberOf(stored) != file.number)) {
-    report.Error(relative, "holds resource " + std::to_string(stored) + " (" +
-                               IdText(CourseOf(stored), NumberOf(stored)) +
-                               ") but its path names " + IdText(*file.course, file.number));
+    result.findings.push_back({Severity::kError, relative,
+                               "holds resource " + std::to_string(stored) + " (" +
+                                   IdText(CourseOf(stored), NumberOf(stored)) +
+                                   ") but its path names " + IdText(*file.course, file.number)});
   }
+  return result;
 }
 
 }  // namespace
 
+// The files are read and decoded by two threads, each taking half of them; the findings are
+// then reported, and the bytes kept, in the order of the files.
 void CheckResources(const CheckedRoot& root, CheckReport& report) {
+  std::vector<FileToCheck> items;
   for (const CheckedDiscipline& d : root.disciplines) {
     for (uint32_t type : kExerciseTypes) {
-      for (const WalkedResource& file : WalkResourceFiles(d.discipline->localRoot, type)) {
-        CheckFile(root, type, file, report);
+      for (WalkedResource& file : WalkResourceFiles(d.discipline->localRoot, type)) {
+        items.push_back({type, std::move(file)});
       }
     }
+  }
+  std::vector<FileResult> results(items.size());
+  auto check = [&](size_t from, size_t to) {
+    for (size_t i = from; i < to; ++i) results[i] = CheckFile(root, items[i]);
+  };
+  const size_t half = items.size() / 2;
+  std::exception_ptr failed;
+  std::thread second([&] {
+    try {
+      check(half, items.size());
+    } catch (...) {
+      failed = std::current_exception();
+    }
+  });
+  try {
+    check(0, half);
+  } catch (...) {
+    second.join();
+    throw;
+  }
+  second.join();
+  if (failed) std::rethrow_exception(failed);
+  for (size_t i = 0; i < items.size(); ++i) {
+    ++report.checked;
+    for (Finding& finding : results[i].findings) report.findings.push_back(std::move(finding));
+    if (results[i].read) KeepFile(items[i].file.path, std::move(results[i].bytes));
   }
 }
 
