@@ -24,6 +24,8 @@ step "A type-40 resource (its .arh twin wins), references expanded, media as web
 step "The same resource's media as network paths, Q3 tried first" \
   'lumora resource $dir -d 1 --type 40 --id 0x100001 --path-kind unc --order 3 | grep -o "[^ ]*lumora-server[^] ]*" | sort -u'
 step "One medium" 'lumora media $dir -d 1 --kind 2 --folder 1005 --resource 0x100001 --path-kind url'
+step "Its file is a small Flash movie (header FWS, version 6): a coloured card and disc; sounds are short tones" \
+  'od -An -c -N4 $dir/D001/C0001/r0001005/Q1/p0000001.swf; wc -c $dir/D001/C0001/r0001005/Q1/p0000001.swf $dir/D001/C0001/r0001005/Q2/s0000002.swf'
 step "Discipline 1 also holds every other exercise type: a video (type 1003) and its script" \
   'lumora resource $dir -d 1 --type 1003 --id 0x100001 | head -24'
 step "Video Questions (type 8): its head links to video 1, one question per paragraph of it" \

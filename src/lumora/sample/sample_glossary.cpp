@@ -15,6 +15,7 @@
 #include <lumora/sample/sample_files.h>
 #include <lumora/sample/sample_glossary_words.h>
 #include <lumora/sample/sample_package.h>
+#include <lumora/sample/swf_media.h>
 
 namespace lumora::sample {
 namespace {
@@ -149,8 +150,7 @@ void AddLinks(CGloV6& g) {
 }
 
 bool WriteSoundFile(const CGloV6& g, uint32_t quality, uint16_t word, std::string* error) {
-  return WriteBytesFile(QualityFilePath(g.folder, quality, word),
-                        "sample sound " + std::to_string(word) + "\n", error);
+  return WriteBytesFile(QualityFilePath(g.folder, quality, word), SwfTone(word), error);
 }
 
 // The sound of every recorded word in every quality folder: the index lists the words whose

@@ -10,6 +10,7 @@
 #include <lumora/sample/sample_dates.h>
 #include <lumora/sample/sample_files.h>
 #include <lumora/sample/sample_package.h>
+#include <lumora/sample/swf_media.h>
 
 namespace lumora::sample {
 namespace {
@@ -104,8 +105,7 @@ bool WritePictureFiles(const CGramV6& g, std::string* error) {
       std::snprintf(name, sizeof name, "Q%d%c%03d%c%02d.swf", quality, kPathSeparator,
                     static_cast<int>(picture.pointId), kPathSeparator,
                     static_cast<int>(picture.attrA));
-      const std::string bytes = "sample grammar picture " + std::to_string(picture.pointId) + "." +
-                                std::to_string(picture.attrA) + "\n";
+      const std::string bytes = SwfPicture(picture.pointId * 100 + picture.attrA);
       if (!WriteBytesFile(g.folder + name, bytes, error)) return false;
     }
   }

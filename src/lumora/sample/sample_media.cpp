@@ -9,6 +9,7 @@
 
 #include <lumora/sample/sample_files.h>
 #include <lumora/sample/sample_layout.h>
+#include <lumora/sample/swf_media.h>
 
 namespace lumora::sample {
 namespace {
@@ -17,10 +18,10 @@ constexpr int kVideosPerExercise = 3;
 
 // The element slots with a medium on disk; the missing picture stays without a file.
 bool WriteElementMedia(const std::string& root, uint32_t course, int unit, std::string* error) {
-  const std::string picture = NumberedName('p', ElementNumber(course, unit, kPictureSlot));
-  const std::string sound = NumberedName('s', ElementNumber(course, unit, kSoundSlot));
-  return WriteMedium(root, {course, kElementFolder, picture, ".swf", {1, 3}}, error) &&
-         WriteMedium(root, {course, kElementFolder, sound, ".swf", {2}}, error);
+  const uint32_t picture = ElementNumber(course, unit, kPictureSlot);
+  const uint32_t sound = ElementNumber(course, unit, kSoundSlot);
+  return WriteMedium(root, {course, kElementFolder, 'p', picture, ".swf", {1, 3}}, error) &&
+         WriteMedium(root, {course, kElementFolder, 's', sound, ".swf", {2}}, error);
 }
 
 // Item videos by item position: MPEG in Q1; AVI in Q2 and Q3; MPEG and AVI side by side in Q3
@@ -28,15 +29,15 @@ bool WriteElementMedia(const std::string& root, uint32_t course, int unit, std::
 // exercise holds, since the exercises of later units borrow them.
 bool WriteItemVideo(const std::string& root, uint32_t course, int unit, int slot, int item,
                     std::string* error) {
-  const std::string stem = NumberedName('v', VideoNumber(course, unit, slot, item));
+  const uint32_t video = VideoNumber(course, unit, slot, item);
   switch (item) {
     case 0:
-      return WriteMedium(root, {course, kExerciseFolder, stem, ".mpg", {1}}, error);
+      return WriteMedium(root, {course, kExerciseFolder, 'v', video, ".mpg", {1}}, error);
     case 1:
-      return WriteMedium(root, {course, kExerciseFolder, stem, ".avi", {2, 3}}, error);
+      return WriteMedium(root, {course, kExerciseFolder, 'v', video, ".avi", {2, 3}}, error);
     case 2:
-      return WriteMedium(root, {course, kExerciseFolder, stem, ".mpg", {3}}, error) &&
-             WriteMedium(root, {course, kExerciseFolder, stem, ".avi", {3}}, error);
+      return WriteMedium(root, {course, kExerciseFolder, 'v', video, ".mpg", {3}}, error) &&
+             WriteMedium(root, {course, kExerciseFolder, 'v', video, ".avi", {3}}, error);
     default:
       return true;
   }
@@ -54,14 +55,27 @@ bool WriteUnitMedia(const std::string& root, uint32_t course, int unit, std::str
 
 }  // namespace
 
+std::string MediumBytes(char letter, uint32_t number, const std::string& extension) {
+  if (extension != ".swf") return "sample " + NumberedName(letter, number) + extension + "\n";
+  switch (letter) {
+    case 's':
+      return SwfTone(number);
+    case 'p':
+      return SwfPicture(number);
+    default:
+      return SwfClip(number);
+  }
+}
+
 bool WriteMedium(const std::string& root, const MediumFiles& medium, std::string* error) {
   const std::string folder = root + CourseFolderName(medium.course) + kPathSeparator +
                              NumberedName('r', medium.folder) + kPathSeparator;
-  const std::string name = medium.stem + medium.extension;
+  const std::string name = NumberedName(medium.letter, medium.number) + medium.extension;
+  const std::string bytes = MediumBytes(medium.letter, medium.number, medium.extension);
   for (int q : medium.qualities) {
     char quality[8];
     std::snprintf(quality, sizeof quality, "Q%d%c", q, kPathSeparator);
-    if (!WriteBytesFile(folder + quality + name, "sample " + name + "\n", error)) return false;
+    if (!WriteBytesFile(folder + quality + name, bytes, error)) return false;
   }
   return true;
 }
@@ -72,8 +86,7 @@ bool WriteSampleMedia(const std::string& root, int scale, std::string* error) {
       if (!WriteUnitMedia(root, course, unit, error)) return false;
     }
   }
-  const std::string picture = NumberedName('p', kDescriptionPicture);
-  return WriteMedium(root, {0, kDescriptionFolder, picture, ".swf", {1}}, error);
+  return WriteMedium(root, {0, kDescriptionFolder, 'p', kDescriptionPicture, ".swf", {1}}, error);
 }
 
 }  // namespace lumora::sample

@@ -30,8 +30,7 @@ inline MediaRef TypeMedium(uint32_t kind, uint32_t type, uint32_t number,
 inline bool WriteTypeMedium(const std::string& root, uint32_t type, char letter, uint32_t number,
                             const char* extension, std::initializer_list<int> qualities,
                             std::string* error, uint32_t course = kTypeCourse) {
-  return WriteMedium(root, {course, type, NumberedName(letter, number), extension, qualities},
-                     error);
+  return WriteMedium(root, {course, type, letter, number, extension, qualities}, error);
 }
 
 // Stores resources 1 to `count` of class Resource, each filled by `build(resource, number)`.
