@@ -49,6 +49,16 @@ bool Router::Match(const Route& route, const std::vector<std::string>& segments,
   return true;
 }
 
+bool Router::Owns(const std::string& segment) const {
+  for (const Route& route : routes_) {
+    if (!route.pattern.empty() && !IsParam(route.pattern.front()) &&
+        route.pattern.front() == segment) {
+      return true;
+    }
+  }
+  return false;
+}
+
 Response Router::Call(const Handler& handler, const Request& request,
                       const RouteMatch& match) const {
   try {
@@ -76,7 +86,8 @@ Response Router::Dispatch(const Request& request) const {
     response.SetHeader("Allow", allowed);
     return response;
   }
-  if (fallback_ && (request.method == "GET" || request.method == "HEAD")) {
+  const bool owned = !request.segments.empty() && Owns(request.segments.front());
+  if (fallback_ && !owned && (request.method == "GET" || request.method == "HEAD")) {
     return Call(fallback_, request, RouteMatch{});
   }
   return ErrorResponse(404, "no such address: " + request.raw_path);

@@ -29,8 +29,9 @@ class Router {
   void Add(std::string method, std::string_view pattern, Handler handler);
   void Get(std::string_view pattern, Handler handler) { Add("GET", pattern, std::move(handler)); }
 
-  // Answers the GET and HEAD requests that no route takes (the page answers its own paths so).
-  // Without one, they answer 404.
+  // Answers the GET and HEAD requests that no route takes, except below the first segment of a
+  // route ("/api/...", "/media/..."), where an unknown path stays a 404: the page answers its
+  // own paths ("/d/1/type/40") so. Without one, they answer 404.
   void SetFallback(Handler handler) { fallback_ = std::move(handler); }
 
   // The handler's answer; 404 for a path no route takes, 405 (with Allow) for a path taken only
@@ -45,6 +46,8 @@ class Router {
   };
   static bool Match(const Route& route, const std::vector<std::string>& segments,
                     RouteMatch* match);
+  // Whether a route's first segment is the literal `segment`.
+  bool Owns(const std::string& segment) const;
   Response Call(const Handler& handler, const Request& request, const RouteMatch& match) const;
 
   std::vector<Route> routes_;
