@@ -63,16 +63,30 @@ MHD_Response* EngineResponse(Response& response) {
   return answer;
 }
 
+// What the engine keeps for a request between calls: where its answer stands.
+char kHeadersRead;
+char kAnswered;
+
 }  // namespace
 
 struct HttpServer::Glue {
+  // The engine calls once the headers are in, then for each piece of a body, then once at the
+  // end. A request answered on that first call would cost its connection (the engine cannot yet
+  // tell whether a body follows), so a request without a body is answered on the last call, and
+  // one with a body as soon as the body starts: nothing here reads a body.
   static MHD_Result Answer(void* cls, MHD_Connection* connection, const char* url,
-                           const char* method, const char*, const char*, size_t*,
+                           const char* method, const char*, const char*, size_t* upload_size,
                            void** request_state) {
     auto* server = static_cast<HttpServer*>(cls);
-    // Counted from here until the engine reports the request complete, so that Stop waits for it.
-    *request_state = server;
-    server->in_flight_.fetch_add(1);
+    if (!*request_state) {
+      // Counted from here until the engine reports the request complete; Stop waits for it.
+      *request_state = &kHeadersRead;
+      server->in_flight_.fetch_add(1);
+      return MHD_YES;
+    }
+    *upload_size = 0;
+    if (*request_state == &kAnswered) return MHD_YES;
+    *request_state = &kAnswered;
     try {
       Request request;
       request.method = method;
