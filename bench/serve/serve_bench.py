@@ -30,6 +30,11 @@ def wrk(url, seconds, connections):
     return rate, errors + (int(non_2xx.group(1)) if non_2xx else 0)
 
 
+def resident_kib(pid):
+    with open(f"/proc/{pid}/status", encoding="ascii") as f:
+        return int(re.search(r"VmRSS:\s+(\d+)", f.read()).group(1))
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("lumora", nargs="?", default=os.path.join(SOURCE, "build", "lumora"))
@@ -51,9 +56,13 @@ def main():
         print(f"medium: {relative}, {len(medium)} bytes; {args.connections} connections, "
               f"{args.seconds} s each")
         theirs, theirs_errors = wrk(theirs_url, args.seconds, args.connections)
+        server = d.processes[0].pid
+        before = resident_kib(server)
         ours, ours_errors = wrk(ours_url, args.seconds, args.connections)
+        after = resident_kib(server)
     print(f"nginx         {theirs:10.0f} requests/s  {theirs_errors} errors")
-    print(f"lumora serve  {ours:10.0f} requests/s  {ours_errors} errors")
+    print(f"lumora serve  {ours:10.0f} requests/s  {ours_errors} errors, "
+          f"resident memory {before} KiB before, {after} KiB after")
     ratio = ours / theirs
     print(f"ratio {ratio:.2f} (goal 0.70)")
     return 0 if ratio >= 0.7 and ours_errors == 0 else 1
