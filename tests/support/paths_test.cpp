@@ -55,6 +55,19 @@ TEST(Paths, PathIsWithinResolvesDotsAndLinksBeforeComparing) {
   EXPECT_FALSE(PathIsWithin("E:\\Shared\\", tree));
 }
 
+// A folder that cannot be resolved must contain nothing: resolving the candidate afterwards
+// once cleared the folder's error and left an empty folder, which contains every path.
+TEST(Paths, PathIsWithinFailsClosedWhenEitherPathCannotBeResolved) {
+  testing::TempDir dir;
+  const std::string tree = dir.path() + "out/";
+  dir.Write("out/D001/r.ars", "x");
+  ASSERT_EQ(::symlink((tree + "loop").c_str(), (tree + "loop").c_str()), 0);
+  EXPECT_FALSE(PathIsWithin(tree + "D001/", tree + "loop/"));
+  EXPECT_FALSE(PathIsWithin(tree + "loop/D001/", tree));
+  EXPECT_FALSE(PathIsWithin(tree + "D001/", ""));
+  EXPECT_FALSE(PathIsWithin("", tree));
+}
+
 TEST(Paths, FirstExistingFileFollowsListOrder) {
   TempDir dir;
   dir.Write("m.avi", "");

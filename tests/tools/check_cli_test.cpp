@@ -58,5 +58,39 @@ TEST_F(CheckCli, AnErrorExitsWithOneAndAnUnknownCheckIsAUsageError) {
   EXPECT_EQ(RunCli("check " + root() + " --quality 4").exit_code, 2);
 }
 
+// An index whose offsets are all wrong gives one finding per word: the text shows the first 20 and
+// counts the rest, the JSON keeps them all; a finding standing for several says how many.
+TEST_F(CheckCli, TheTextShowsTwentyFindingsOfOneProblemAndTheJsonCountsRepeats) {
+  std::string offsets = dir.Read("D001/C0000/r0001001/t_Glo_Sounds.idx");
+  for (size_t at = 0; at + 4 <= offsets.size(); at += 4) {
+    if (offsets.compare(at, 4, std::string(4, '\xFF')) != 0) ++offsets[at];
+  }
+  dir.Write("D001/C0000/r0001001/t_Glo_Sounds.idx", offsets);
+  std::string ini = dir.Read("Content.ini");
+  ini.insert(ini.find("[001]\r\n") + 7, "Note=1\r\nNote=2\r\nNote=3\r\n");
+  dir.Write("Content.ini", ini);
+
+  const CliResult json_run = RunCli("check " + root() + " -d 1 --checks config,glossary --json");
+  const auto json = nlohmann::json::parse(json_run.out);
+  EXPECT_EQ(json["checks"][0]["findings"][1]["count"], 3) << json["checks"][0].dump();
+  size_t word_findings = 0;
+  for (const auto& finding : json["checks"][1]["findings"]) {
+    EXPECT_FALSE(finding.contains("count")) << finding.dump();
+    if (finding["message"].get<std::string>().starts_with("gives word")) ++word_findings;
+  }
+  ASSERT_GT(word_findings, 20u);
+
+  const CliResult text = RunCli("check " + root() + " -d 1 --checks glossary");
+  size_t shown = 0;
+  for (size_t at = text.out.find(": gives word"); at != std::string::npos;
+       at = text.out.find(": gives word", at + 1)) {
+    ++shown;
+  }
+  EXPECT_EQ(shown, 20u) << text.out;
+  EXPECT_NE(text.out.find("and " + std::to_string(word_findings - 20) + " more like this\n"),
+            std::string::npos)
+      << text.out;
+}
+
 }  // namespace
 }  // namespace lumora::testing

@@ -1,26 +1,30 @@
-// The check's progress bar on standard error: one line, redrawn in place, with the check that
-// runs and the time since the start.
+// The check's progress bar on standard error: one line, redrawn in place, moving with the files
+// the checks read, with the time since the start.
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string>
-#include <vector>
 
 namespace lumora::cli {
 
 class CheckProgressBar {
  public:
-  // `checks` are the names of the checks in the order they run; drawn at 0 at once.
-  explicit CheckProgressBar(std::vector<std::string> checks);
+  // Drawn empty at once.
+  CheckProgressBar();
   ~CheckProgressBar();
   CheckProgressBar(const CheckProgressBar&) = delete;
   CheckProgressBar& operator=(const CheckProgressBar&) = delete;
 
-  // `done` checks have finished.
-  void Draw(size_t done);
+  // The checks expect `maximum` steps in all (files read, and one per check reading few).
+  void SetRange(uint32_t maximum);
+  // `done` of them are done. The line is redrawn only when what it shows changes, so that a
+  // check of many small files spends its time on them, not on the terminal.
+  void Draw(uint32_t done);
 
  private:
-  std::vector<std::string> checks_;
+  uint32_t maximum_ = 0;
+  std::string shown_;
   std::chrono::steady_clock::time_point start_;
 };
 

@@ -45,17 +45,6 @@ std::vector<std::string> SplitChecks(const std::string& text) {
   return names;
 }
 
-// The checks that run, in the order they run.
-std::vector<std::string> ChecksRun(const std::vector<std::string>& chosen) {
-  std::vector<std::string> run;
-  for (const std::string& name : CheckNames()) {
-    if (chosen.empty() || std::find(chosen.begin(), chosen.end(), name) != chosen.end()) {
-      run.push_back(name);
-    }
-  }
-  return run;
-}
-
 const char* SeverityName(Severity severity) {
   return severity == Severity::kError ? "error" : "warning";
 }
@@ -63,9 +52,11 @@ const char* SeverityName(Severity severity) {
 nlohmann::ordered_json ReportJson(const CheckReport& report) {
   nlohmann::ordered_json findings = nlohmann::ordered_json::array();
   for (const Finding& f : report.findings) {
-    findings.push_back({{"severity", SeverityName(f.severity)},
-                        {"file", PrintableText(f.file)},
-                        {"message", PrintableText(f.message)}});
+    nlohmann::ordered_json finding = {{"severity", SeverityName(f.severity)},
+                                      {"file", PrintableText(f.file)},
+                                      {"message", PrintableText(f.message)}};
+    if (f.count > 1) finding["count"] = f.count;
+    findings.push_back(std::move(finding));
   }
   return {{"name", report.name},
           {"checked", report.checked},
@@ -84,9 +75,14 @@ void PrintReports(const std::vector<CheckReport>& reports) {
   for (const CheckReport& r : reports) {
     if (r.findings.empty()) continue;
     std::printf("\n%s:\n", r.name.c_str());
-    for (const Finding& f : r.findings) {
+    for (const ShownFinding& shown : FindingsToShow(r.findings)) {
+      const Finding& f = *shown.finding;
       std::printf("  %-7s %s: %s\n", SeverityName(f.severity), PrintableText(f.file).c_str(),
                   PrintableText(f.message).c_str());
+      if (shown.moreLikeThis > 0) {
+        std::printf("          and %llu more like this\n",
+                    static_cast<unsigned long long>(shown.moreLikeThis));
+      }
     }
   }
 }
@@ -98,12 +94,15 @@ void Run(const Options& options) {
   check.qualityFolders = ParseQualityFolders(options.quality);
   check.fixCase = options.fixCase;
   std::optional<CheckProgressBar> bar;
-  const Progress progress([](uint32_t) {},
-                          [&](uint32_t position) {
-                            if (bar) bar->Draw(position);
-                          });
+  const Progress progress(
+      [&](uint32_t maximum) {
+        if (bar) bar->SetRange(maximum);
+      },
+      [&](uint32_t position) {
+        if (bar) bar->Draw(position);
+      });
   if (!options.json && (options.progress || ::isatty(STDERR_FILENO))) {
-    bar.emplace(ChecksRun(check.checks));
+    bar.emplace();
     check.progress = &progress;
   }
   const std::vector<CheckReport> reports = CheckContentRoot(options.root, check);

@@ -108,7 +108,7 @@ void ReportRepeatedKeys(const Layout::Section& section, const KeysRead& read, Ch
     } else {
       message += ": the library reads none of them";
     }
-    report.Warning(kIni, message);
+    report.Warning(kIni, message, lines.size());
   }
 }
 
@@ -197,9 +197,11 @@ void CheckConfig(const CheckedRoot& root, CheckReport& report) {
   }
   for (const auto& [name, lines] : headers) {
     if (lines.size() < 2) continue;
-    report.Warning(kIni, "section [" + name + "] is given " + std::to_string(lines.size()) +
-                             " times (lines " + Lines(lines) +
-                             "): the library reads the keys of one of them only");
+    report.Warning(kIni,
+                   "section [" + name + "] is given " + std::to_string(lines.size()) +
+                       " times (lines " + Lines(lines) +
+                       "): the library reads the keys of one of them only",
+                   lines.size());
   }
   CheckRoots(root, report);
 }

@@ -97,6 +97,7 @@ void CheckType(const CheckedRoot& root, const Discipline& discipline, uint32_t t
     }
   }
   if (!scratch.empty()) CompareWithRebuild(root, discipline, type, path, scratch, report);
+  root.StepsDone(files.size());
 }
 
 }  // namespace

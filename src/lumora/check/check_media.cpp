@@ -32,7 +32,7 @@ void CheckMedia(const CheckedRoot& root, CheckReport& report) {
     if (!d.discipline->resourceIndex) continue;
     for (const MediaVerification& v :
          VerifyIndexedMedia(d.discipline->localRoot, *d.discipline->resourceIndex,
-                            root.qualityFolders(), std::nullopt)) {
+                            root.qualityFolders(), std::nullopt, [&root] { root.StepsDone(1); })) {
       ++report.checked;
       const std::string file = root.Relative(v.path);
       if (!v.read) {

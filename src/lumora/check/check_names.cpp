@@ -1,7 +1,9 @@
 // Names that differ only in case from what the library looks for: content copied from a disk
 // that ignores case keeps the names it was given there, and the library, which asks for exact
-// names, then misses the file. With fixCase each is renamed to the name looked for, unless
-// that name is taken.
+// names, then misses the file. Each name is matched only in the folder where the library looks
+// for it. With fixCase each is renamed to the name looked for, unless that name is taken or
+// the folder holding it lies outside the content root (reached through a link, or configured
+// there): a check of a tree received from elsewhere never changes anything outside it.
 #include <lumora/check/checks.h>
 #include <lumora/platform/ascii_text.h>
 #include <lumora/support/folder_entries.h>
@@ -9,72 +11,114 @@
 
 #include <stdio.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <map>
 #include <optional>
 #include <regex>
-#include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace lumora {
 namespace {
 
-// What the library looks for, and the spelling it asks for: a letter case for each letter.
-struct NamePattern {
-  std::regex exact;
-  std::regex ignoringCase;
-  std::string (*spelled)(const std::string& found);
+// The folders where the library looks for names, each with the names it asks for there.
+enum class Place {
+  kNone,            // nothing below is looked for by name
+  kContentRoot,     // Content.ini
+  kCommon,          // the common Local folder: Classes and the data folders
+  kClasses,         // the classification's tables
+  kData,            // a discipline's data folder: index files and Content.mdb
+  kLocal,           // a discipline's Local root: course folders
+  kCourse,          // a course folder: type folders
+  kLexiconCourse,   // C0000: type folders, and the glossary's and grammar's folders
+  kType,            // a type folder: resource files and quality folders
+  kTypeQuality,     // a type's quality folder: sounds, pictures and videos
+  kLexicon,         // the glossary's or grammar's folder: tables, the grammar's resource files
+                    // and quality folders
+  kLexiconQuality,  // their quality folder: one folder per hundred words or per point
+  kLexiconNumber,   // the sounds of the glossary's words, the pictures of grammar points
 };
 
-// The first letter as given, the rest of the name as found but with a lowercase extension.
-template <char kFirst>
-std::string FirstLetterAndLowerExtension(const std::string& found) {
+// A name looked for, and how it is spelled: a fixed name, or the name as found with its first
+// letter given (0: as found) and its extension in lowercase.
+struct NamePattern {
+  Place place;
+  std::regex exact;
+  std::regex ignoringCase;
+  const char* fixed;
+  char first;
+  Place below;  // where a folder of this name leads
+};
+
+NamePattern Fixed(Place place, const char* regex, const char* name, Place below = Place::kNone) {
+  return {place, std::regex(regex), std::regex(regex, std::regex::icase), name, 0, below};
+}
+
+NamePattern Numbered(Place place, const char* regex, char first, Place below = Place::kNone) {
+  return {place, std::regex(regex), std::regex(regex, std::regex::icase), nullptr, first, below};
+}
+
+const std::vector<NamePattern>& Patterns() {
+  using P = Place;
+  static const std::vector<NamePattern> patterns = {
+      Fixed(P::kContentRoot, "Content\\.ini", "Content.ini"),
+      Fixed(P::kCommon, "Classes", "Classes"),
+      Numbered(P::kCommon, "D[0-9]{3,}", 'D'),
+      Fixed(P::kClasses, "CRCFile\\.ini", "CRCFile.ini"),
+      Numbered(P::kClasses, "t_.+\\.(set|idx)", 't'),
+      Numbered(P::kData, "r[0-9]{7}\\.ari", 'r'),
+      Fixed(P::kData, "Content\\.mdb", "Content.mdb"),
+      Fixed(P::kLocal, "C0000", "C0000", P::kLexiconCourse),
+      Numbered(P::kLocal, "C[0-9]{4}", 'C', P::kCourse),
+      Numbered(P::kCourse, "r[0-9]{7}", 'r', P::kType),
+      Fixed(P::kLexiconCourse, "r0001001", "r0001001", P::kLexicon),
+      Fixed(P::kLexiconCourse, "r0001002", "r0001002", P::kLexicon),
+      Numbered(P::kLexiconCourse, "r[0-9]{7}", 'r', P::kType),
+      Numbered(P::kType, "r[0-9]{7}\\.(ars|arh)", 'r'),
+      Numbered(P::kType, "Q[0-9]+", 'Q', P::kTypeQuality),
+      Numbered(P::kTypeQuality, "s[0-9]{7}\\.swf", 's'),
+      Numbered(P::kTypeQuality, "p[0-9]{7}\\.swf", 'p'),
+      Numbered(P::kTypeQuality, "v[0-9]{7}\\.(mpg|avi|swf)", 'v'),
+      Fixed(P::kLexicon, "CRCFile\\.ini", "CRCFile.ini"),
+      Numbered(P::kLexicon, "t_.+\\.(set|idx)", 't'),
+      Numbered(P::kLexicon, "r[0-9]{7}\\.ars", 'r'),
+      Numbered(P::kLexicon, "Q[0-9]+", 'Q', P::kLexiconQuality),
+      Numbered(P::kLexiconQuality, "[0-9]{3,}", 0, P::kLexiconNumber),
+      Numbered(P::kLexiconNumber, "[0-9]{2,}\\.swf", 0),
+  };
+  return patterns;
+}
+
+std::string Spelled(const NamePattern& pattern, const std::string& found) {
+  if (pattern.fixed != nullptr) return pattern.fixed;
   std::string name = found;
-  name[0] = kFirst;
+  if (pattern.first != 0) name[0] = pattern.first;
   const size_t dot = name.rfind('.');
   if (dot != std::string::npos) name = name.substr(0, dot) + LowerAscii(name.substr(dot));
   return name;
 }
 
-template <const char* kName>
-std::string Fixed(const std::string&) {
-  return kName;
-}
+// What the library asks for in `places` that `name` is, or differs from only in case.
+struct Match {
+  const NamePattern* pattern;
+  std::optional<std::string> spelled;  // set when the name differs in case
+};
 
-constexpr char kContentIni[] = "Content.ini";
-constexpr char kContentMdb[] = "Content.mdb";
-constexpr char kCrcFile[] = "CRCFile.ini";
-constexpr char kClasses[] = "Classes";
-
-NamePattern Pattern(const char* regex, std::string (*spelled)(const std::string&)) {
-  return {std::regex(regex), std::regex(regex, std::regex::icase), spelled};
-}
-
-const std::vector<NamePattern>& Patterns() {
-  static const std::vector<NamePattern> patterns = [] {
-    std::vector<NamePattern> all;
-    all.push_back(Pattern("Content\\.ini", &Fixed<kContentIni>));
-    all.push_back(Pattern("Content\\.mdb", &Fixed<kContentMdb>));
-    all.push_back(Pattern("CRCFile\\.ini", &Fixed<kCrcFile>));
-    all.push_back(Pattern("Classes", &Fixed<kClasses>));
-    all.push_back(Pattern("C[0-9]{4}", &FirstLetterAndLowerExtension<'C'>));
-    all.push_back(Pattern("D[0-9]{3}", &FirstLetterAndLowerExtension<'D'>));
-    all.push_back(Pattern("r[0-9]{7}(\\.(ars|arh|ari))?", &FirstLetterAndLowerExtension<'r'>));
-    all.push_back(Pattern("t_.+\\.(set|idx)", &FirstLetterAndLowerExtension<'t'>));
-    return all;
-  }();
-  return patterns;
-}
-
-// The spelling the library asks for when `name` differs from it only in case.
-std::optional<std::string> SpellingLookedFor(const std::string& name) {
+std::optional<Match> MatchName(const std::vector<Place>& places, const std::string& name) {
+  const auto in_places = [&](const NamePattern& p) {
+    return std::find(places.begin(), places.end(), p.place) != places.end();
+  };
   for (const NamePattern& pattern : Patterns()) {
-    if (std::regex_match(name, pattern.exact)) return std::nullopt;
-    if (std::regex_match(name, pattern.ignoringCase)) {
-      std::string spelled = pattern.spelled(name);
-      if (spelled == name) return std::nullopt;
-      return spelled;
-    }
+    if (in_places(pattern) && std::regex_match(name, pattern.exact)) return Match{&pattern, {}};
+  }
+  for (const NamePattern& pattern : Patterns()) {
+    if (!in_places(pattern) || !std::regex_match(name, pattern.ignoringCase)) continue;
+    std::string spelled = Spelled(pattern, name);
+    if (spelled == name) return Match{&pattern, {}};
+    return Match{&pattern, std::move(spelled)};
   }
   return std::nullopt;
 }
@@ -83,9 +127,9 @@ class NameWalk {
  public:
   NameWalk(const CheckedRoot& root, CheckReport& report) : root_(root), report_(report) {}
 
-  // Checks the entries of `folder`, and those of its subfolders `depth` levels down.
-  void Walk(const std::string& folder, int depth) {
-    if (!visited_.insert(folder).second) return;
+  // Checks the entries of `folder` against the names looked for in `places`, and walks the
+  // folders among them that lead somewhere.
+  void Walk(const std::string& folder, const std::vector<Place>& places) {
     const auto entries = ListFolder(folder);
     if (!entries) {
       if (FolderExists(folder)) {
@@ -95,11 +139,13 @@ class NameWalk {
     }
     for (const FolderEntry& entry : *entries) {
       ++report_.checked;
+      const auto match = MatchName(places, entry.name);
+      if (!match) continue;
       std::string name = entry.name;
-      if (const auto spelled = SpellingLookedFor(name)) {
-        if (Report(folder, name, *spelled)) name = *spelled;
+      if (match->spelled && Report(folder, name, *match->spelled)) name = *match->spelled;
+      if (entry.isFolder && match->pattern->below != Place::kNone) {
+        Walk(folder + name + kPathSeparator, {match->pattern->below});
       }
-      if (entry.isFolder && depth > 0) Walk(folder + name + kPathSeparator, depth - 1);
     }
   }
 
@@ -109,15 +155,23 @@ class NameWalk {
     const std::string from = folder + name;
     const std::string to = folder + spelled;
     const std::string relative = root_.Relative(from);
+    const std::string differs = "differs only in case from " + spelled;
+    const bool outside = !PathIsWithin(folder, root_.root);
+    if (outside) {
+      report_.Error(relative, differs +
+                                  ", the name the library looks for, but its folder lies outside "
+                                  "the content root (through a link or the configuration): it "
+                                  "is not found, and lumora check never renames it");
+      return false;
+    }
     if (!root_.options.fixCase) {
-      report_.Error(relative, "differs only in case from " + spelled +
+      report_.Error(relative, differs +
                                   ", the name the library looks for: it is not found (lumora "
                                   "check --fix-case renames it)");
       return false;
     }
     if (FileExists(to) || FolderExists(to)) {
-      report_.Error(relative, "differs only in case from " + spelled +
-                                  ", which exists beside it: not renamed");
+      report_.Error(relative, differs + ", which exists beside it: not renamed");
       return false;
     }
     if (::rename(from.c_str(), to.c_str()) != 0) {
@@ -130,20 +184,34 @@ class NameWalk {
 
   const CheckedRoot& root_;
   CheckReport& report_;
-  std::set<std::string> visited_;
 };
 
 }  // namespace
 
-// Deepest walks first: a folder already walked is not walked again, and the disciplines' roots
-// often lie in the common folder, which lies in the content root.
+// The folders the configuration names are walked in this order, each once with every name
+// looked for there (the common folder is often the content root, and a data folder often the
+// Local root too): a folder renamed in one is then found by the next.
 void CheckNameCase(const CheckedRoot& root, CheckReport& report) {
+  std::vector<std::pair<std::string, std::vector<Place>>> folders;
+  const auto add = [&folders](const std::string& folder, Place place) {
+    for (auto& [path, places] : folders) {
+      if (path != folder) continue;
+      if (std::find(places.begin(), places.end(), place) == places.end()) places.push_back(place);
+      return;
+    }
+    folders.push_back({folder, {place}});
+  };
+  add(root.root, Place::kContentRoot);
+  if (root.iniLoaded) {
+    add(WithBackslash(root.common.local), Place::kCommon);
+    add(WithBackslash(ClassesFolder(root.common.local)), Place::kClasses);
+  }
+  for (const CheckedDiscipline& d : root.disciplines) {
+    add(WithBackslash(d.discipline->dataFolder), Place::kData);
+    add(WithBackslash(d.discipline->localRoot), Place::kLocal);
+  }
   NameWalk walk(root, report);
-  // Each discipline: course folders, type folders, resource files and the lexicon's files.
-  for (const CheckedDiscipline& d : root.disciplines) walk.Walk(d.discipline->localRoot, 3);
-  // The common folder: Classes and the data folders with their index files and Content.mdb.
-  if (root.iniLoaded) walk.Walk(root.common.local, 1);
-  walk.Walk(root.root, 0);
+  for (const auto& [folder, places] : folders) walk.Walk(folder, places);
 }
 
 }  // namespace lumora

@@ -1,10 +1,10 @@
 // Every resource file of every exercise type decodes with its type's class, and holds the
 // resource its path names; an ".arh" twin, which the library prefers, decodes too.
 #include <lumora/check/checks.h>
-#include <lumora/check/resource_walk.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/kept_files.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/paths.h>
 
@@ -25,14 +25,14 @@ std::string IdText(uint32_t course, uint32_t number) {
 // One resource file: read whole, decoded from its bytes, its findings. The bytes are kept
 // afterwards, on the calling thread, for the index rebuilds and the media check.
 struct FileResult {
-  std::vector<Finding> findings;
+  CheckReport found;  // its findings only
   std::string bytes;
   bool read = false;
 };
 
 struct FileToCheck {
   uint32_t type;
-  WalkedResource file;
+  ScannedResource file;
 };
 
 LoadResult ReadAndDecode(const std::string& path, ExerciseResource& resource, FileResult& result) {
@@ -49,29 +49,26 @@ LoadResult ReadAndDecode(const std::string& path, ExerciseResource& resource, Fi
 
 FileResult CheckFile(const CheckedRoot& root, const FileToCheck& item) {
   FileResult result;
-  const WalkedResource& file = item.file;
+  const ScannedResource& file = item.file;
   const std::string relative = root.Relative(file.path);
   if (!file.course) {
-    result.findings.push_back(
-        {Severity::kWarning, relative,
-         "lies outside a course folder (C and four digits): the library never reads it"});
+    result.found.Warning(
+        relative, "lies outside a course folder (C and four digits): the library never reads it");
   }
   std::unique_ptr<ExerciseResource> resource = NewResource(item.type);
   const LoadResult loaded = ReadAndDecode(file.path, *resource, result);
   if (!loaded.ok()) {
-    result.findings.push_back(
-        {Severity::kError, relative,
-         "does not decode as type " + std::to_string(item.type) + " (" +
-             loaded.failure().Details() + ")" +
-             (file.twin ? ": the library reads this twin before the .ars file" : "")});
+    result.found.Error(relative,
+                       "does not decode as type " + std::to_string(item.type) + " (" +
+                           loaded.failure().Details() + ")" +
+                           (file.twin ? ": the library reads this twin before the .ars file" : ""));
     return result;
   }
   const uint32_t stored = resource->resourceId;
   if (file.course && (CourseOf(stored) != *file.course || NumberOf(stored) != file.number)) {
-    result.findings.push_back({Severity::kError, relative,
-                               "holds resource " + std::to_string(stored) + " (" +
-                                   IdText(CourseOf(stored), NumberOf(stored)) +
-                                   ") but its path names " + IdText(*file.course, file.number)});
+    result.found.Error(relative, "holds resource " + std::to_string(stored) + " (" +
+                                     IdText(CourseOf(stored), NumberOf(stored)) +
+                                     ") but its path names " + IdText(*file.course, file.number));
   }
   return result;
 }
@@ -84,14 +81,17 @@ void CheckResources(const CheckedRoot& root, CheckReport& report) {
   std::vector<FileToCheck> items;
   for (const CheckedDiscipline& d : root.disciplines) {
     for (uint32_t type : kExerciseTypes) {
-      for (WalkedResource& file : WalkResourceFiles(d.discipline->localRoot, type)) {
+      for (ScannedResource& file : ScanResourceFiles(d.discipline->localRoot, type, {true})) {
         items.push_back({type, std::move(file)});
       }
     }
   }
   std::vector<FileResult> results(items.size());
   auto check = [&](size_t from, size_t to) {
-    for (size_t i = from; i < to; ++i) results[i] = CheckFile(root, items[i]);
+    for (size_t i = from; i < to; ++i) {
+      results[i] = CheckFile(root, items[i]);
+      root.StepsDone(1);
+    }
   };
   const size_t half = items.size() / 2;
   std::exception_ptr failed;
@@ -112,7 +112,9 @@ void CheckResources(const CheckedRoot& root, CheckReport& report) {
   if (failed) std::rethrow_exception(failed);
   for (size_t i = 0; i < items.size(); ++i) {
     ++report.checked;
-    for (Finding& finding : results[i].findings) report.findings.push_back(std::move(finding));
+    for (Finding& finding : results[i].found.findings) {
+      report.findings.push_back(std::move(finding));
+    }
     if (results[i].read) KeepFile(items[i].file.path, std::move(results[i].bytes));
   }
 }

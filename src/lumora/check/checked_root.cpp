@@ -1,4 +1,8 @@
 #include <lumora/check/checked_root.h>
+#include <lumora/resources/resource_scan.h>
+#include <lumora/resources/type_catalog.h>
+
+#include <algorithm>
 
 namespace lumora {
 
@@ -21,6 +25,30 @@ CheckedRoot::CheckedRoot(const std::string& content_root, const CheckOptions& op
     LexiconLoadResult lexicon = discipline->LoadLexicon(classification);
     disciplines.push_back({n, id, std::move(discipline), std::move(lexicon)});
   }
+  for (const CheckedDiscipline& d : disciplines) {
+    ListResourceFolders(d.discipline->localRoot, resourceFolders);
+  }
+  const SharedFolderListing listed(resourceFolders);
+  for (const CheckedDiscipline& d : disciplines) {
+    for (uint32_t type : kExerciseTypes) {
+      resourceFiles += ScanResourceFiles(d.discipline->localRoot, type, {true}).size();
+    }
+  }
+}
+
+void CheckedRoot::SetProgressRange(uint64_t steps) {
+  expected_ = steps;
+  if (options.progress != nullptr) {
+    options.progress->SetRange(static_cast<uint32_t>(std::min<uint64_t>(expected_, UINT32_MAX)));
+  }
+}
+
+void CheckedRoot::StepsDone(uint64_t steps) const {
+  if (options.progress == nullptr || steps == 0) return;
+  const std::lock_guard<std::mutex> guard(progress_lock_);
+  // The counts a check expects are estimates: the bar never runs past its end.
+  done_ = steps >= expected_ - done_ ? expected_ : done_ + steps;
+  options.progress->SetPosition(static_cast<uint32_t>(std::min<uint64_t>(done_, UINT32_MAX)));
 }
 
 std::string CheckedRoot::Relative(const std::string& path) const {

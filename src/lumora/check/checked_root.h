@@ -7,10 +7,12 @@
 #include <lumora/frame/discipline.h>
 #include <lumora/lexicon/classification.h>
 #include <lumora/support/content_ini.h>
+#include <lumora/support/folder_entries.h>
 #include <lumora/support/profile_file.h>
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +37,11 @@ class CheckedRoot {
   // The quality folders to check: those of the options, or 1, 2 and 3.
   const ByteArray& qualityFolders() const { return quality_; }
 
+  // The progress of the whole run counts files read: `steps` are expected in all.
+  void SetProgressRange(uint64_t steps);
+  // `steps` more files (or, for a check reading few, the check itself) are done; from any thread.
+  void StepsDone(uint64_t steps) const;
+
   const CheckOptions& options;
   std::string root;  // with its separator
   std::string iniPath;
@@ -44,9 +51,16 @@ class CheckedRoot {
   Classification classification;
   LoadResult classificationLoad;               // how the classification's load went
   std::vector<CheckedDiscipline> disciplines;  // Type 0 and the filter's, in section order
+  // The course and type folders of every discipline, listed once for every check that scans
+  // them; the number of resource files (".ars" and ".arh") they hold.
+  FolderListing resourceFolders;
+  uint64_t resourceFiles = 0;
 
  private:
   ByteArray quality_;
+  mutable std::mutex progress_lock_;
+  uint64_t expected_ = 0;
+  mutable uint64_t done_ = 0;
 };
 
 }  // namespace lumora

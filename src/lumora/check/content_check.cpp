@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <exception>
-#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -17,10 +17,15 @@ namespace {
 // changes once the first are done: the resource files they read are kept, and no check writes.
 enum class Lane { kFirst, kSecondThread, kAfter };
 
+// How a check moves the progress: per resource file it reads (it moves the progress itself),
+// or as one step when it is done.
+enum class Steps { kPerResourceFile, kOne };
+
 struct NamedCheck {
   const char* name;
   void (*run)(const CheckedRoot&, CheckReport&);
   Lane lane;
+  Steps steps = Steps::kOne;
 };
 
 // In this order: the resource files are read (and kept) before the index files are rebuilt from
@@ -28,9 +33,9 @@ struct NamedCheck {
 constexpr std::array kChecks = {
     NamedCheck{"config", &CheckConfig, Lane::kFirst},
     NamedCheck{"sets", &CheckSets, Lane::kFirst},
-    NamedCheck{"resources", &CheckResources, Lane::kFirst},
-    NamedCheck{"index", &CheckIndexes, Lane::kAfter},
-    NamedCheck{"media", &CheckMedia, Lane::kSecondThread},
+    NamedCheck{"resources", &CheckResources, Lane::kFirst, Steps::kPerResourceFile},
+    NamedCheck{"index", &CheckIndexes, Lane::kAfter, Steps::kPerResourceFile},
+    NamedCheck{"media", &CheckMedia, Lane::kSecondThread, Steps::kPerResourceFile},
     NamedCheck{"glossary", &CheckGlossary, Lane::kAfter},
     NamedCheck{"grammar", &CheckGrammar, Lane::kAfter},
     NamedCheck{"classification", &CheckClassification, Lane::kAfter},
@@ -51,12 +56,12 @@ bool Chosen(const CheckOptions& options, const char* name) {
 
 }  // namespace
 
-void CheckReport::Error(std::string file, std::string message) {
-  findings.push_back({Severity::kError, std::move(file), std::move(message)});
+void CheckReport::Error(std::string file, std::string message, uint64_t count) {
+  findings.push_back({Severity::kError, std::move(file), std::move(message), count});
 }
 
-void CheckReport::Warning(std::string file, std::string message) {
-  findings.push_back({Severity::kWarning, std::move(file), std::move(message)});
+void CheckReport::Warning(std::string file, std::string message, uint64_t count) {
+  findings.push_back({Severity::kWarning, std::move(file), std::move(message), count});
 }
 
 uint64_t CheckReport::errors() const { return CountOf(*this, Severity::kError); }
@@ -79,26 +84,26 @@ bool IsCheckName(std::string_view name) {
 std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
                                           const CheckOptions& options) {
   // The resources check reads every resource file once and keeps its bytes: the index rebuilds
-  // and the media check that follow read them from memory.
+  // and the media check that follow read them from memory. Every check scans the course and
+  // type folders from the one listing the root made.
   KeptFiles kept;
-  const CheckedRoot root(contentRoot, options);
+  CheckedRoot root(contentRoot, options);
+  const SharedFolderListing listed(root.resourceFolders);
   std::vector<const NamedCheck*> chosen;
+  uint64_t steps = 0;
   for (const NamedCheck& check : kChecks) {
-    if (Chosen(options, check.name)) chosen.push_back(&check);
+    if (!Chosen(options, check.name)) continue;
+    chosen.push_back(&check);
+    steps += check.steps == Steps::kOne ? 1 : root.resourceFiles;
   }
+  root.SetProgressRange(steps);
   std::vector<CheckReport> reports(chosen.size());
-  const Progress none;
-  const Progress& progress = options.progress != nullptr ? *options.progress : none;
-  progress.SetRange(static_cast<uint32_t>(chosen.size()));
-  std::mutex progress_lock;
-  uint32_t done = 0;
   auto run = [&](Lane lane) {
     for (size_t i = 0; i < chosen.size(); ++i) {
       if (chosen[i]->lane != lane) continue;
       reports[i].name = chosen[i]->name;
       chosen[i]->run(root, reports[i]);
-      const std::lock_guard<std::mutex> guard(progress_lock);
-      progress.SetPosition(++done);
+      if (chosen[i]->steps == Steps::kOne) root.StepsDone(1);
     }
   };
   run(Lane::kFirst);
@@ -106,6 +111,7 @@ std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
   std::thread second([&] {
     try {
       const KeptFilesView view(kept);
+      const SharedFolderListing listed_here(root.resourceFolders);
       run(Lane::kSecondThread);
     } catch (...) {
       failed = std::current_exception();
@@ -119,6 +125,7 @@ std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
   }
   second.join();
   if (failed) std::rethrow_exception(failed);
+  root.StepsDone(UINT64_MAX);  // the checks that read fewer files than expected end here too
   return reports;
 }
 

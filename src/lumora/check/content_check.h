@@ -23,6 +23,8 @@ struct Finding {
   Severity severity = Severity::kError;
   std::string file;     // relative to the content root when it lies below it
   std::string message;  // one sentence (UTF-8)
+  uint64_t count = 1;   // how many times the problem occurs: more than 1 where one finding
+                        // stands for several (a key given many times)
 };
 
 struct CheckReport {
@@ -30,8 +32,8 @@ struct CheckReport {
   uint64_t checked = 0;  // files, sections, records or links looked at
   std::vector<Finding> findings;
 
-  void Error(std::string file, std::string message);
-  void Warning(std::string file, std::string message);
+  void Error(std::string file, std::string message, uint64_t count = 1);
+  void Warning(std::string file, std::string message, uint64_t count = 1);
   uint64_t errors() const;
   uint64_t warnings() const;
 };
@@ -43,6 +45,17 @@ struct CheckOptions {
   bool fixCase = false;             // rename names whose only difference is their case
   const Progress* progress = nullptr;
 };
+
+// The findings of one report as a person reads them: of the findings of one file that state the
+// same problem (the same severity and message but for the numbers in it, such as one per word
+// of an index whose offsets are all wrong), the first `shownAlike` are shown and the others
+// only counted, on the last one shown. In report order.
+struct ShownFinding {
+  const Finding* finding;
+  uint64_t moreLikeThis = 0;  // findings left out after this one
+};
+std::vector<ShownFinding> FindingsToShow(const std::vector<Finding>& findings,
+                                         size_t shownAlike = 20);
 
 // The names of the checks, in the order they run.
 const std::vector<std::string>& CheckNames();

@@ -2,40 +2,35 @@
 #include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
-#include <lumora/support/folder_entries.h>
 #include <lumora/support/listed_files.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
-#include <cctype>
+#include <map>
+#include <set>
+#include <utility>
 
 namespace lumora {
 namespace {
 
-// The courses below a local root, from the names of its "C%04d" folders, in ascending order.
-std::vector<uint32_t> CoursesBelow(const std::string& local_root) {
-  std::vector<uint32_t> courses;
-  const auto entries = ListFolder(local_root);
-  if (!entries) return courses;
-  for (const FolderEntry& entry : *entries) {
-    const std::string& name = entry.name;
-    if (!entry.isFolder || name.size() != 5 || name[0] != 'C' ||
-        !std::all_of(name.begin() + 1, name.end(),
-                     [](char c) { return std::isdigit(static_cast<unsigned char>(c)); })) {
+// The resource file the library reads for each resource of `type` below local_root, by
+// identifier: the ".arh" twin when it is a file, else the ".ars" file, in course folders only.
+std::map<uint32_t, std::string> FilesByResource(const std::string& local_root, uint32_t type) {
+  std::map<uint32_t, std::string> files;
+  for (const ScannedResource& file : ScanResourceFiles(local_root, type, {true})) {
+    if (!file.course || !file.isFile) continue;
+    const uint32_t id = MakeResourceId(*file.course, file.number);
+    // Only the name the library builds for this identifier is ever read.
+    if (file.path != ResourceFilePath(local_root, type, id) &&
+        file.path != ChangeExtension(ResourceFilePath(local_root, type, id), "arh")) {
       continue;
     }
-    courses.push_back(static_cast<uint32_t>(std::stoul(name.substr(1))));
+    auto& path = files[id];
+    if (path.empty() || file.twin) path = file.path;
   }
-  std::sort(courses.begin(), courses.end());
-  return courses;
-}
-
-std::string FileOf(const std::string& local_root, uint32_t type, uint32_t resource_id) {
-  const std::string path = ResourceFilePath(local_root, type, resource_id);
-  const std::string twin = ChangeExtension(path, "arh");
-  if (FileListed(twin)) return twin;
-  return FileListed(path) ? path : std::string();
+  return files;
 }
 
 MediaVerification Verify(const std::string& local_root, const ByteArray& quality, uint32_t type,
@@ -53,26 +48,28 @@ MediaVerification Verify(const std::string& local_root, const ByteArray& quality
 std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
                                                   const ResourceIndex& index,
                                                   const ByteArray& qualityFolders,
-                                                  std::optional<uint32_t> onlyType) {
+                                                  std::optional<uint32_t> onlyType,
+                                                  const std::function<void()>& verified) {
   // Nothing changes in the tree meanwhile: each folder is listed once for every medium and
   // file looked up in it.
   const ListedFiles listed;
-  const std::vector<uint32_t> courses = CoursesBelow(localRoot);
   std::vector<MediaVerification> results;
   for (uint32_t type : index.types()) {
     if (onlyType && *onlyType != type) continue;
     const TypeIndex* type_index = index.FindType(type);
     const auto indexed = type_index ? NumbersOf(*type_index) : std::nullopt;
     if (!indexed) continue;
-    std::vector<uint32_t> numbers = indexed->numbers;
-    std::sort(numbers.begin(), numbers.end());
-    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
-    for (uint32_t number : numbers) {
-      for (uint32_t course : courses) {
-        const uint32_t id = MakeResourceId(course, number);
-        const std::string path = FileOf(localRoot, type, id);
-        if (!path.empty()) results.push_back(Verify(localRoot, qualityFolders, type, id, path));
-      }
+    const std::set<uint32_t> numbers(indexed->numbers.begin(), indexed->numbers.end());
+    // Each indexed number in every course folder that holds it: number order, then course.
+    std::vector<std::pair<uint32_t, uint32_t>> found;  // number, resource identifier
+    const std::map<uint32_t, std::string> files = FilesByResource(localRoot, type);
+    for (const auto& [id, path] : files) {
+      if (numbers.count(NumberOf(id)) != 0) found.emplace_back(NumberOf(id), id);
+    }
+    std::sort(found.begin(), found.end());
+    for (const auto& [number, id] : found) {
+      results.push_back(Verify(localRoot, qualityFolders, type, id, files.at(id)));
+      if (verified) verified();
     }
   }
   return results;

@@ -7,6 +7,7 @@
 #include <lumora/resources/resource_index.h>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,11 +29,13 @@ struct MediaVerification {
 
 // Every resource of every type of `index` (only `onlyType` when given) whose file lies in a
 // course folder below local_root, read and verified against the media of `qualityFolders`.
-// In type order, then resource identifier order.
+// In type order, then resource number order, then course order. `verified`, when given, is
+// called after each resource, so that a caller can show the work move.
 std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
                                                   const ResourceIndex& index,
                                                   const ByteArray& qualityFolders,
-                                                  std::optional<uint32_t> onlyType);
+                                                  std::optional<uint32_t> onlyType,
+                                                  const std::function<void()>& verified = {});
 
 }  // namespace lumora
 

@@ -10,6 +10,8 @@
 namespace lumora {
 namespace {
 
+thread_local const FolderListing* shared_listing = nullptr;
+
 struct DirCloser {
   void operator()(DIR* dir) const { ::closedir(dir); }
 };
@@ -27,7 +29,7 @@ FolderEntry EntryOf(const std::string& folder, const dirent& entry) {
 
 }  // namespace
 
-std::optional<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
+FolderEntries ListFolder(const std::string& folder) {
   std::unique_ptr<DIR, DirCloser> dir(::opendir(folder.c_str()));
   if (!dir) return std::nullopt;
   std::vector<FolderEntry> entries;
@@ -40,5 +42,40 @@ std::optional<std::vector<FolderEntry>> ListFolder(const std::string& folder) {
             [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
   return entries;
 }
+
+const FolderEntries& FolderListing::Add(const std::string& folder) {
+  const auto known = folders_.find(folder);
+  if (known != folders_.end()) return known->second;
+  return folders_[folder] = ListFolder(folder);
+}
+
+const FolderEntries* FolderListing::Find(const std::string& folder) const {
+  if (const auto known = folders_.find(folder); known != folders_.end()) return &known->second;
+  if (folder.size() < 2 || folder.back() != kPathSeparator) return nullptr;
+  const std::string_view path = std::string_view(folder).substr(0, folder.size() - 1);
+  const auto parent = folders_.find(FolderOf(path));
+  if (parent == folders_.end() || !parent->second) return nullptr;
+  const std::string_view name = path.substr(parent->first.size());
+  const auto& entries = *parent->second;
+  const auto entry =
+      std::lower_bound(entries.begin(), entries.end(), name,
+                       [](const FolderEntry& e, std::string_view n) { return e.name < n; });
+  if (entry != entries.end() && entry->name == name && entry->isFolder) return nullptr;
+  static const FolderEntries kNotListable;
+  return &kNotListable;
+}
+
+FolderEntries ListedFolder(const std::string& folder) {
+  if (shared_listing != nullptr) {
+    if (const FolderEntries* listed = shared_listing->Find(folder)) return *listed;
+  }
+  return ListFolder(folder);
+}
+
+SharedFolderListing::SharedFolderListing(const FolderListing& listing) : previous_(shared_listing) {
+  shared_listing = &listing;
+}
+
+SharedFolderListing::~SharedFolderListing() { shared_listing = previous_; }
 
 }  // namespace lumora

@@ -27,7 +27,7 @@ const ListedFiles::Files& ListedFiles::Listed(const std::string& folder) {
   const auto known = folders_.find(folder);
   if (known != folders_.end()) return known->second;
   Files& files = folders_[folder];
-  if (const auto entries = ListFolder(folder)) {
+  if (const auto entries = ListedFolder(folder)) {
     for (const FolderEntry& entry : *entries) {
       if (entry.isFile) files.insert(entry.name);
     }

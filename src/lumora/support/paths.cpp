@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <iterator>
 #include <new>
+#include <optional>
 
 namespace lumora {
 namespace {
@@ -85,18 +86,30 @@ std::string ModuleFolder(const void* address_in_module) {
   return FolderOf(file);
 }
 
-bool PathIsWithin(const std::string& path, const std::string& folder) {
+namespace {
+
+// The absolute form of `path` with links, "." and ".." resolved as far as they exist; nothing
+// when any step fails, so that a caller never compares against a half-resolved path.
+std::optional<std::filesystem::path> Resolved(const std::string& path) {
+  if (path.empty()) return std::nullopt;
   std::error_code error;
-  const auto resolved = [&error](const std::string& p) {
-    return std::filesystem::weakly_canonical(std::filesystem::absolute(p, error), error);
-  };
-  const std::filesystem::path inside = resolved(folder);
-  const std::filesystem::path candidate = resolved(path);
-  if (error) return false;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  if (error) return std::nullopt;
+  std::filesystem::path resolved = std::filesystem::weakly_canonical(absolute, error);
+  if (error || resolved.empty()) return std::nullopt;
+  return resolved;
+}
+
+}  // namespace
+
+bool PathIsWithin(const std::string& path, const std::string& folder) {
+  const auto inside = Resolved(folder);
+  const auto candidate = Resolved(path);
+  if (!inside || !candidate) return false;
   // A folder value's trailing separator leaves an empty last part, which anything matches.
-  auto end = inside.end();
-  if (end != inside.begin() && std::prev(end)->empty()) --end;
-  return std::mismatch(inside.begin(), end, candidate.begin(), candidate.end()).first == end;
+  auto end = inside->end();
+  if (end != inside->begin() && std::prev(end)->empty()) --end;
+  return std::mismatch(inside->begin(), end, candidate->begin(), candidate->end()).first == end;
 }
 
 std::string FolderOf(std::string_view path) {

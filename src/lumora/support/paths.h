@@ -35,7 +35,8 @@ bool CreateFolderPath(const std::string& path);
 std::string ModuleFolder(const void* address_in_module = nullptr);
 
 // Whether `path` is `folder` or lies below it, both taken as absolute paths with links and "."
-// and ".." resolved as far as they exist.
+// and ".." resolved as far as they exist. False whenever either cannot be resolved (an empty
+// path, a loop of links, a folder that cannot be searched): a doubt never counts as inside.
 bool PathIsWithin(const std::string& path, const std::string& folder);
 
 std::string FolderOf(std::string_view path);
@@ -48,9 +49,10 @@ std::string ChangeExtension(std::string_view path, std::string_view extension);
 std::string FirstExistingFile(const std::string& base,
                               std::initializer_list<std::string_view> suffixes);
 
-// Stores `object` into (creating or truncating) or loads it from the file at `path` through an
-// archive with a 4096-byte buffer. False on any file or archive error; a partly loaded object
-// keeps what it read.
+// Stores `object` into or loads it from the file at `path` through an archive with a 4096-byte
+// buffer. A store replaces the file whole (written beside it, then renamed over it), so that a
+// failed store leaves the previous file in place. False on any file or archive error; a partly
+// loaded object keeps what it read.
 // While a KeptFiles lives on this thread, a file kept in it loads from the kept bytes.
 bool LoadArchiveFile(const std::string& path, bool store, Object& object);
 
