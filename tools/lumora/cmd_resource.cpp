@@ -54,7 +54,7 @@ void Run(const Options& options) {
     std::printf("resource 0x%08x: type %u, course %u, number %u\n", resource_id, options.type,
                 CourseOf(resource_id), NumberOf(resource_id));
     Description fields = out;
-    for (const char* head : {"ok", "type", "resourceId", "course", "number", "media"}) {
+    for (const char* head : {"ok", "type", "resourceId", "course", "number", "allMedia"}) {
       fields.erase(head);
     }
     PrintTree(std::cout, HumanForm(fields), 2);

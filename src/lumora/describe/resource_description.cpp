@@ -21,13 +21,14 @@ Description DescribeResource(const ExerciseResource& resource, uint32_t resource
   Description out = Head(true, resource.GetType(), resourceId);
   ResourceDescriber writer(DisciplineTextCodePage(disciplineId));
   if (!writer.Fields(resource, out)) return nullptr;
-  out["media"] = writer.media();
+  // Some types have a field named "media" of their own: the media gathered get a name apart.
+  out["allMedia"] = writer.media();
   return out;
 }
 
 Description DescribeUnreadResource(uint32_t type, uint32_t resourceId, const std::string& reason) {
   Description out = Head(false, type, resourceId);
-  out["media"] = Description::array();
+  out["allMedia"] = Description::array();
   out["reason"] = PrintableText(reason);
   return out;
 }

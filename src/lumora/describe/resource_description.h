@@ -2,7 +2,7 @@
 //
 //   {"ok", "type", "resourceId", "course", "number",      the head
 //    "records", ...the type's own fields...,              when the resource was read
-//    "media": [every medium met, kind not 0, in order],
+//    "allMedia": [every medium met, kind not 0, in order],
 //    "reason"}                                           when it was not
 #pragma once
 
