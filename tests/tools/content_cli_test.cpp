@@ -139,10 +139,14 @@ TEST_F(ContentCli, MediaAndPathInfo) {
       Json("media " + root() + " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind url");
   EXPECT_EQ(found, nlohmann::json::parse(
                        R"({"ok":true,"path":"http://cdn.test/c/C0001/r0001005/Q2/p0000007.swf"})"));
+  // Local paths are never answered: asking for one is a usage error, for media as for resources.
+  EXPECT_EQ(RunCli("media " + root() +
+                   " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind local")
+                .exit_code,
+            2);
   EXPECT_EQ(
-      Json("media " + root() + " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind local",
-           1)["ok"],
-      false);
+      RunCli("resource " + root() + " -d 5 --type 40 --id 0x20001e --path-kind local").exit_code,
+      2);
   EXPECT_EQ(Json("path-info " + root() + " -d 5")["path"], dir.path() + "D005/");
   EXPECT_EQ(Json("path-info " + root() + " -d 77")["path"], dir.path());
 }

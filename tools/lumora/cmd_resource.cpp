@@ -72,7 +72,8 @@ void AddResourceCommand(CLI::App& app) {
   command->add_option("--id", options->id, "Resource id, decimal or 0x-hex")
       ->required()
       ->check(NumberText("resource id"));
-  command->add_option("--path-kind", options->pathKind, "local, url (default) or unc");
+  command->add_option("--path-kind", options->pathKind, "url (default) or unc")
+      ->check(AnsweredPathKind());
   command->add_option("--order", options->order, "Quality folder order 1, 2 or 3")
       ->check(CLI::Range(1u, 3u));
   command->add_flag("--no-media", options->noMedia, "Do not resolve media paths");

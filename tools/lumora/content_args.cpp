@@ -61,6 +61,14 @@ uint32_t ParsePathKind(const std::string& text) {
   throw CommandFailure("path kind must be local, url or unc: " + text);
 }
 
+CLI::Validator AnsweredPathKind() {
+  return ParsedBy([](const std::string& text) {
+    if (ParsePathKind(text) == kPathLocal) {
+      throw CommandFailure("local paths are never answered: use url or unc");
+    }
+  });
+}
+
 const char* PathKindName(uint32_t path_kind) {
   return path_kind == kPathUrl ? "url" : path_kind == kPathUnc ? "unc" : "local";
 }

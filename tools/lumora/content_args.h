@@ -29,6 +29,8 @@ CLI::Validator NumberText(const char* what);
 // "local", "url" or "unc".
 uint32_t ParsePathKind(const std::string& text);
 const char* PathKindName(uint32_t path_kind);
+// Accepts "url" and "unc" only: media paths are never answered as local paths.
+CLI::Validator AnsweredPathKind();
 
 // Opens a content root for the life of a command (with the package databases when asked) and
 // closes it again.
