@@ -60,7 +60,9 @@ TEST(ResourceTypesCli, EveryTypeDecodesWithItsOwnFields) {
       ASSERT_FALSE(own.empty()) << result.out;
       for (const nlohmann::json& media : own) {
         ASSERT_TRUE(media.is_object() && media.contains("resource")) << result.out;
-        if (media["kind"] != 0) EXPECT_NE(std::find(all.begin(), all.end(), media), all.end());
+        if (media["kind"] != 0) {
+          EXPECT_NE(std::find(all.begin(), all.end(), media), all.end()) << result.out;
+        }
       }
     }
   }
