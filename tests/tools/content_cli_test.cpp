@@ -103,13 +103,13 @@ TEST_F(ContentCli, ResourceExpandsReferencesAndAnswersUrlAndUncPaths) {
   EXPECT_EQ(element["isReference"], false);
   EXPECT_EQ(element["text"]["text"], "Bonjour");
   EXPECT_EQ(element["translations"][0]["text"], "Hello");
-  ASSERT_EQ(url["media"].size(), 2u);
-  EXPECT_EQ(url["media"][0]["path"], "http://cdn.test/c/C0001/r0001005/Q2/p0000007.swf");
-  EXPECT_EQ(url["media"][1]["path"], "http://cdn.test/c/C0002/r0000040/Q1/v0000030.avi");
+  ASSERT_EQ(url["allMedia"].size(), 2u);
+  EXPECT_EQ(url["allMedia"][0]["path"], "http://cdn.test/c/C0001/r0001005/Q2/p0000007.swf");
+  EXPECT_EQ(url["allMedia"][1]["path"], "http://cdn.test/c/C0002/r0000040/Q1/v0000030.avi");
 
   nlohmann::json unc = Json("resource " + root() + " -d 5 --type 40 --id " +
                             std::to_string(kExercise) + " --path-kind unc --order 3");
-  EXPECT_EQ(unc["media"][1]["path"], "\\\\srv\\c\\C0002\\r0000040\\Q3\\v0000030.mpg");
+  EXPECT_EQ(unc["allMedia"][1]["path"], "\\\\srv\\c\\C0002\\r0000040\\Q3\\v0000030.mpg");
 
   CliResult human = RunCli("resource " + root() + " -d 5 --type 40 --id 0x20001e");
   EXPECT_NE(human.out.find("\n              text: Bonjour\n"), std::string::npos) << human.out;
@@ -120,13 +120,13 @@ TEST_F(ContentCli, ResourceExpandsReferencesAndAnswersUrlAndUncPaths) {
   nlohmann::json raw = Json("resource " + root() + " -d 5 --type 40 --id 0x20001e --no-media");
   EXPECT_EQ(raw["items"][0]["firstParts"][0]["elements"][0],
             nlohmann::json::parse(R"({"isReference":true,"reference":1048583})"));
-  EXPECT_EQ(raw["media"][0]["path"], "");
+  EXPECT_EQ(raw["allMedia"][0]["path"], "");
 }
 
 TEST_F(ContentCli, ResourceFailuresExitWithOne) {
   nlohmann::json missing = Json("resource " + root() + " -d 5 --type 40 --id 0x20001f", 1);
   EXPECT_EQ(missing["ok"], false);
-  EXPECT_EQ(missing["media"], nlohmann::json::array());
+  EXPECT_EQ(missing["allMedia"], nlohmann::json::array());
   // The type-1005 file read as type 40: its head has no type tag.
   EXPECT_EQ(Json("resource " + root() + " -d 5 --type 40 --id 0x100007", 1)["ok"], false);
   EXPECT_EQ(RunCli("resource " + root() + " -d 9 --type 40 --id 1").exit_code, 1);
@@ -139,10 +139,14 @@ TEST_F(ContentCli, MediaAndPathInfo) {
       Json("media " + root() + " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind url");
   EXPECT_EQ(found, nlohmann::json::parse(
                        R"({"ok":true,"path":"http://cdn.test/c/C0001/r0001005/Q2/p0000007.swf"})"));
+  // Local paths are never answered: asking for one is a usage error, for media as for resources.
+  EXPECT_EQ(RunCli("media " + root() +
+                   " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind local")
+                .exit_code,
+            2);
   EXPECT_EQ(
-      Json("media " + root() + " -d 5 --kind 2 --folder 1005 --resource 0x100007 --path-kind local",
-           1)["ok"],
-      false);
+      RunCli("resource " + root() + " -d 5 --type 40 --id 0x20001e --path-kind local").exit_code,
+      2);
   EXPECT_EQ(Json("path-info " + root() + " -d 5")["path"], dir.path() + "D005/");
   EXPECT_EQ(Json("path-info " + root() + " -d 77")["path"], dir.path());
 }

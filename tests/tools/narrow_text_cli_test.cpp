@@ -43,8 +43,8 @@ TEST(NarrowTextCli, ContentIniValuesInTheWindowsCodePageBecomeUtf8) {
             "http://content.lumora.test/cours\u00e9-utf8/D002/");
 
   const json resource = ParsedJson("resource " + root + " -d 1 --type 40 --id 2097155");
-  ASSERT_FALSE(resource["media"].empty());
-  for (const json& media : resource["media"]) {
+  ASSERT_FALSE(resource["allMedia"].empty());
+  for (const json& media : resource["allMedia"]) {
     EXPECT_EQ(media["path"].get<std::string>().rfind("http://content.lumora.test/cours\u00e9/", 0),
               0u)
         << media;

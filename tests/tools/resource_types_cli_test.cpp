@@ -1,12 +1,13 @@
 // `lumora resource` over one stored resource of every exercise type: each decodes, the field that
-// only its own class has comes out filled (no type falls to another type's writer), and every
-// medium it holds reaches the answer's media list.
+// only its own class has comes out filled (no type falls to another type's writer), every medium
+// it holds reaches the answer's allMedia list, and a type's own "media" field stays its own.
 #include <lumora/resources/resource_files.h>
 #include <lumora/resources/type_catalog.h>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -27,7 +28,7 @@ const std::map<uint32_t, const char*> kOwnField = {
     {40, "items"},       {1003, "script"},      {1005, "translations"}, {1006, "entries"},
     {1010, "moreTexts"}, {2000, "description"}};
 
-// The types whose resources hold media of their own; the answer's media list must collect them.
+// The types whose resources hold media of their own; the answer's allMedia list must collect them.
 const std::set<uint32_t> kWithMedia = {5, 9, 10, 14, 20, 21, 28, 40, 1003, 1005, 1006, 1010, 2000};
 
 TEST(ResourceTypesCli, EveryTypeDecodesWithItsOwnFields) {
@@ -51,7 +52,19 @@ TEST(ResourceTypesCli, EveryTypeDecodesWithItsOwnFields) {
     ASSERT_TRUE(out.contains(kOwnField.at(type))) << result.out;
     const nlohmann::json& field = out[kOwnField.at(type)];
     EXPECT_TRUE(field.is_number() || !field.empty()) << result.out;
-    EXPECT_EQ(out["media"].empty(), kWithMedia.count(type) == 0) << result.out;
+    const nlohmann::json& all = out["allMedia"];
+    EXPECT_EQ(all.empty(), kWithMedia.count(type) == 0) << result.out;
+    // Types 9, 1005 and 1006 hold one medium named "media", type 14 a list of them.
+    if (type == 9 || type == 1005 || type == 1006 || type == 14) {
+      const nlohmann::json own = type == 14 ? out["media"] : nlohmann::json::array({out["media"]});
+      ASSERT_FALSE(own.empty()) << result.out;
+      for (const nlohmann::json& media : own) {
+        ASSERT_TRUE(media.is_object() && media.contains("resource")) << result.out;
+        if (media["kind"] != 0) {
+          EXPECT_NE(std::find(all.begin(), all.end(), media), all.end()) << result.out;
+        }
+      }
+    }
   }
 }
 

@@ -37,7 +37,7 @@ void Run(const Options& options) {
   } else if (ok) {
     std::cout << PrintableText(path, kWindowsAnsi) << '\n';
   }
-  if (!ok) throw CommandFailure("medium not found (local paths are never answered)");
+  if (!ok) throw CommandFailure("medium not found");
 }
 
 void AddMediaCommand(CLI::App& app) {
@@ -53,7 +53,9 @@ void AddMediaCommand(CLI::App& app) {
   command->add_option("--resource", options->resource, "Resource id, decimal or 0x-hex")
       ->required()
       ->check(NumberText("resource"));
-  command->add_option("--path-kind", options->pathKind, "url or unc")->required();
+  command->add_option("--path-kind", options->pathKind, "url or unc")
+      ->required()
+      ->check(AnsweredPathKind());
   command->add_option("--order", options->order, "Quality folder order 1, 2 or 3")
       ->check(CLI::Range(1u, 3u));
   command->add_flag("--json", options->json, "Print JSON instead of text");

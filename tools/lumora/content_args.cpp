@@ -1,8 +1,6 @@
 #include "content_args.h"
 
 #include <lumora/frame/opened_disciplines.h>
-#include <lumora/platform/utf8.h>
-#include <lumora/support/language_table.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -63,6 +61,14 @@ uint32_t ParsePathKind(const std::string& text) {
   throw CommandFailure("path kind must be local, url or unc: " + text);
 }
 
+CLI::Validator AnsweredPathKind() {
+  return ParsedBy([](const std::string& text) {
+    if (ParsePathKind(text) == kPathLocal) {
+      throw CommandFailure("local paths are never answered: use url or unc");
+    }
+  });
+}
+
 const char* PathKindName(uint32_t path_kind) {
   return path_kind == kPathUrl ? "url" : path_kind == kPathUnc ? "unc" : "local";
 }
@@ -87,12 +93,6 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
   return request;
 }
 
-uint32_t TextCodePage(uint32_t id) {
-  OpenedDiscipline discipline;
-  return FindOpenedDiscipline(id, &discipline) ? CodePageOf(static_cast<uint8_t>(discipline.param))
-                                               : kWindowsAnsi;
-}
-
 std::string FailureText(const std::string& root, const LoadFailure& failure) {
   LoadFailure shown = failure;
   const std::string folder = root.empty() || root.back() == '/' ? root : root + "/";
@@ -100,15 +100,6 @@ std::string FailureText(const std::string& root, const LoadFailure& failure) {
     shown.file.erase(0, folder.size());
   }
   return shown.file.empty() ? shown.Details() : shown.ToString();
-}
-
-std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
-
-nlohmann::ordered_json MediaJson(const MediaRef& media) {
-  return {{"kind", media.kind},
-          {"folder", media.folder},
-          {"resource", media.resource},
-          {"path", PrintableText(media.path, kWindowsAnsi)}};
 }
 
 }  // namespace lumora::cli

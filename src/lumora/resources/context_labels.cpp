@@ -1,6 +1,6 @@
 #include <lumora/resources/context_labels.h>
-#include <lumora/resources/exercise_names.h>
 #include <lumora/resources/report_format.h>
+#include <lumora/resources/type_catalog.h>
 
 #include <optional>
 
