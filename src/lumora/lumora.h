@@ -44,6 +44,9 @@
 
 extern "C" {
 
+// The library's version, "MAJOR.MINOR.PATCH": the version of the shared library's file name.
+LUMORA_EXPORT const char* lumora_version();
+
 // Opens every discipline that contentRoot's Content.ini configures (only the one with
 // identifier disciplineFilter unless it is 0). A second open without a close registers the
 // disciplines again behind the first ones. True when at least one discipline is registered.

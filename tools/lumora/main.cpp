@@ -1,3 +1,4 @@
+#include <lumora/lumora.h>
 #include <lumora/support/internal_log.h>
 
 #include "commands.h"
@@ -64,7 +65,7 @@ void AddLogFolderOption(CLI::App& app) {
 
 int main(int argc, char** argv) {
   CLI::App app{"lumora: inspect and write the content of a multimedia language course"};
-  app.set_version_flag("--version", std::string("lumora ") + LUMORA_VERSION);
+  app.set_version_flag("--version", std::string("lumora ") + lumora_version());
   app.require_subcommand(0, 1);
   AddLogFolderOption(app);
   const LogInstallation log;

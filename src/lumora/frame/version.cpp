@@ -1,0 +1,3 @@
+#include <lumora/lumora.h>
+
+extern "C" const char* lumora_version() { return LUMORA_VERSION; }
