@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 30
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 DEMO_DIR   ?= demo-content
 
-.PHONY: all deps build configure demo test install asan-test bench fuzz format format-check clean
+.PHONY: all deps build configure demo test install asan-test tsan-test bench fuzz format format-check clean
 
 all: build
 
@@ -52,6 +52,17 @@ asan-test: $(ASAN_BUILD)/CMakeCache.txt
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(ASAN_BUILD) && ctest --output-on-failure -j $(JOBS)
 
+# The thread tests under ThreadSanitizer: the library and those tests only.
+TSAN_BUILD ?= build-tsan
+
+$(TSAN_BUILD)/CMakeCache.txt: | deps
+	cmake -S . -B $(TSAN_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=$(SAN_CXX) \
+	  $(LAUNCHER) -DLUMORA_TSAN=ON -DLUMORA_BENCH=OFF -DLUMORA_UNITY=ON
+
+tsan-test: $(TSAN_BUILD)/CMakeCache.txt
+	cmake --build $(TSAN_BUILD) -j $(JOBS) --target lumora_thread_tests
+	TSAN_OPTIONS=halt_on_error=1 $(TSAN_BUILD)/tests/lumora_thread_tests
+
 bench: build
 	@for b in $(BUILD)/bench/*_bench; do python3 bench/ratios.py $$b; done
 
@@ -85,4 +96,4 @@ format-check:
 	git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt $(DEMO_DIR)-logs $(DEMO_DIR)-export
+	rm -rf $(BUILD) $(ASAN_BUILD) $(TSAN_BUILD) $(DEMO_DIR) $(DEMO_DIR)-rebuilt $(DEMO_DIR)-logs $(DEMO_DIR)-export
