@@ -150,11 +150,15 @@ TEST_F(ExportDatabaseFaults, CustomizedExportNeverAnswersTrueWithLessThanItsRows
 TEST_F(ExportDatabaseFaults, AFailedCommitIsSaidWithTheDatabaseAndTheReason) {
   ASSERT_TRUE(lmOpen_Database(source().c_str(), 1));
   SqliteFaults faults(SqliteFaults::kSync);
-  FreshDestination();
   DWordArray ids;
   ids.Add(4);
-  // The commit is the first flush of the export database.
-  faults.Arm(1, SqliteFaults::Error::kDiskFull);
+  FreshDestination();
+  faults.Arm(0, SqliteFaults::Error::kDiskFull);
+  ASSERT_TRUE(lmExportPackage(1, ids, {}, destination().c_str(), nullptr, &report)) << report;
+  // The commit's flush of the database file is the export's last.
+  const uint64_t last = faults.StepsTaken();
+  FreshDestination();
+  faults.Arm(last, SqliteFaults::Error::kDiskFull);
   EXPECT_FALSE(lmExportPackage(1, ids, {}, destination().c_str(), nullptr, &report));
   EXPECT_TRUE(faults.Fired());
   EXPECT_NE(

@@ -48,12 +48,13 @@ Files Snapshot(const std::string& folder) {
 
 // The files whose failed write the export keeps to itself, as it always has: the index files
 // of the rebuild, the files of the publishing pass, and what resource classes copy as their
-// media (below a quality folder of a course, and the linked video resources of questions).
+// media (below a quality folder of a resource type other than the glossary's and the grammar's,
+// and the linked video resources of questions).
 bool KeptSilent(const std::string& name) {
   static const std::regex silent(
-      R"(.*\.(ari|arh|aro)|D001/C0*[1-9][0-9]*/r[0-9]{7}/(Q[0-9]+/.*|r[0-9]{7}\.ars))");
-  return std::regex_match(name, silent) &&
-         (!name.ends_with(".ars") || name.find("/r0001003/") != std::string::npos);
+      R"(.*\.(ari|arh|aro)|D001/C[0-9]{4}/r(?!000100[12]/)[0-9]{7}/Q[0-9]+/.*|)"
+      R"(D001/C[0-9]{4}/r0001003/r[0-9]{7}\.ars)");
+  return std::regex_match(name, silent);
 }
 
 // What the next reader of each folder does first: a save that failed after it was decided is

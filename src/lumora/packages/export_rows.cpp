@@ -37,6 +37,13 @@ bool ExportRows::Open(const std::string& exportFolder) {
     if (FileExists(databasePath_)) SayFileFailure("cannot open the package database");
     return false;
   }
+  // Opening gives a new database its identifier table without saying whether that worked; an
+  // export without it would not be whole.
+  if (database_->lastError != DatabaseConnection::kSuccess) {
+    report_ += FormatReportLine("Can not open %s!\n", connectionString_.c_str());
+    SayReason("cannot write the identifier table");
+    return false;
+  }
   return true;
 }
 
