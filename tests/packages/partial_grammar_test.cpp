@@ -178,13 +178,14 @@ TEST(CopySwfFolder, CopiesOnlyTheSwfFilesDirectlyInTheFolder) {
     dir.Write(name, name);
   }
   std::string report;
-  EXPECT_TRUE(CopySwfFolder(dir.path() + "from/", dir.path() + "to/new/", report));
+  CopyQueue copies(report);
+  EXPECT_TRUE(CopySwfFolder(dir.path() + "from/", dir.path() + "to/new/", copies));
   EXPECT_EQ(report, "");
   EXPECT_EQ(FilesIn(dir.path() + "to/new"), (std::vector<std::string>{"B.SWF", "a.swf"}));
   EXPECT_EQ(dir.Read("to/new/a.swf"), "from/a.swf");
 
   // A missing source folder has nothing to copy; the destination is still made.
-  EXPECT_TRUE(CopySwfFolder(dir.path() + "none/", dir.path() + "empty/", report));
+  EXPECT_TRUE(CopySwfFolder(dir.path() + "none/", dir.path() + "empty/", copies));
   EXPECT_TRUE(fs::is_directory(dir.path() + "empty"));
   EXPECT_EQ(report, "");
 }
@@ -197,14 +198,15 @@ TEST(CopySwfFolder, ReportsEachFailedCopyAndGoesOn) {
   fs::permissions(locked, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                   fs::perm_options::remove);
   std::string report;
-  EXPECT_FALSE(CopySwfFolder(dir.path() + "from/", dir.path() + "to/", report));
+  CopyQueue copies(report);
+  EXPECT_FALSE(CopySwfFolder(dir.path() + "from/", dir.path() + "to/", copies));
   EXPECT_EQ(report, "Cannot copy file: " + dir.path() + "from/a.swf\n");
   EXPECT_EQ(dir.Read("to/a.swf"), "old a");
   EXPECT_EQ(dir.Read("to/b.swf"), "new b");
 
   dir.Write("blocked", "a file where a folder should be");
   report.clear();
-  EXPECT_FALSE(CopySwfFolder(dir.path() + "from/", dir.path() + "blocked/to/", report));
+  EXPECT_FALSE(CopySwfFolder(dir.path() + "from/", dir.path() + "blocked/to/", copies));
   EXPECT_EQ(report, "Can not create directory : " + dir.path() + "blocked/to/\n");
 }
 

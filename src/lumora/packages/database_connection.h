@@ -78,6 +78,12 @@ class DatabaseConnection : public Object {
   // and an internal-log entry with `code`.
   void ReportError(const ado::Error& error, int32_t code);
 
+  // What the last caught error said of itself (the engine's reason, "database or disk is
+  // full"), and whether it was a failure of the file (full, I/O, locked, not a database) rather
+  // than of the statement (a broken statement, a duplicate key).
+  const std::string& errorReason() const { return errorReason_; }
+  bool FileFailed() const { return errorHresult_ == ado::kUnspecifiedError; }
+
   std::unique_ptr<ado::Connection> connection;
   uint8_t isOpen = 0;
   std::vector<std::unique_ptr<RecordsetHolder>> openRecordsets;
@@ -93,6 +99,9 @@ class DatabaseConnection : public Object {
   bool Connect(const std::string& connectionString, const std::string& user,
                const std::string& password, uint8_t readOnly);
   void CreateIdentifierTable();
+
+  std::string errorReason_;
+  ado::HRESULT errorHresult_ = 0;
 };
 
 }  // namespace lumora

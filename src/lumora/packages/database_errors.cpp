@@ -35,6 +35,8 @@ void DatabaseConnection::ReportError(const ado::Error& error, int32_t code) {
   errorText =
       "[" + error.source() + "] [" + error.description() + "] {" + SystemMessage(error) + "}";
   errorCode = DispatchCode(error.hr());
+  errorReason_ = error.description();
+  errorHresult_ = error.hr();
   ReportCodeText(code, errorText);
 }
 

@@ -1,7 +1,5 @@
 #include <lumora/packages/export_resources.h>
-#include <lumora/platform/atomic_write.h>
 #include <lumora/platform/file.h>
-#include <lumora/platform/kept_files.h>
 #include <lumora/resources/link_record.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/resources/type_catalog.h>
@@ -24,11 +22,11 @@ std::string ExportResourcePath(const std::string& folder, int32_t type, int32_t 
 }
 
 ExportResourceCopier::ExportResourceCopier(std::string sourceFolder, std::string exportFolder,
-                                           const ByteArray& qualityFolders, std::string& report)
+                                           const ByteArray& qualityFolders, CopyQueue& copies)
     : sourceFolder_(std::move(sourceFolder)),
       exportFolder_(std::move(exportFolder)),
       qualityFolders_(qualityFolders),
-      report_(report) {}
+      copies_(copies) {}
 
 void ExportResourceCopier::Copy(int32_t type, int32_t resourceId) {
   std::unique_ptr<ExerciseResource> resource = NewResource(static_cast<uint32_t>(type));
@@ -36,87 +34,45 @@ void ExportResourceCopier::Copy(int32_t type, int32_t resourceId) {
   const std::string source = ExportResourcePath(sourceFolder_, type, resourceId);
   const std::string destination = ExportResourcePath(exportFolder_, type, resourceId);
   const std::string folder = FolderOf(destination);
-  if (!MakeFolder(folder)) {
-    Say(FormatReportLine("Can not create directory : %s\n", folder.c_str()));
+  if (!copies_.MakeFolder(folder)) {
+    copies_.Say(FormatReportLine("Can not create directory : %s\n", folder.c_str()));
   }
+  const std::string failed = FormatReportLine("Can not copy file: %s\n", source.c_str());
   std::string bytes;
-  const WholeFile read = ReadWholeFile(source, kMostBytesInMemory, bytes);
   bool loaded = false;
-  switch (read) {
+  switch (ReadWholeFile(source, kMostBytesInMemory, bytes)) {
     case WholeFile::kMissing:
       return;
     case WholeFile::kUnreadable:
-      Say(FormatReportLine("Can not copy file: %s\n", source.c_str()));
+      copies_.Say(failed);
       break;
     case WholeFile::kTooLarge:
-      Queue({destination, std::string(), source}, source);
+      copies_.Copy(source, destination, failed);
       loaded = LoadArchiveFile(source, false, *resource);
       break;
     case WholeFile::kRead:
       loaded = LoadArchiveBytes(bytes, *resource);
-      Queue({destination, std::move(bytes), std::string()}, source);
+      copies_.Write(destination, std::move(bytes), failed);
       break;
   }
   if (!loaded) {
-    Say(FormatReportLine("Can not open file: %s\n", source.c_str()));
+    copies_.Say(FormatReportLine("Can not open file: %s\n", source.c_str()));
   } else {
     if (type == static_cast<int32_t>(Type8Resource::kType)) {
       CollectVideoLinks(static_cast<const Type8Resource&>(*resource));
     }
     // What a medium that cannot be copied means is the resource class's to say: nothing here.
+    // Its copies go through the same queue (CopyFileInto), after the resource file's.
     resource->CopyMedia(exportFolder_, static_cast<uint32_t>(resourceId), qualityFolders_,
                         sourceFolder_);
   }
-  Collect(false);
-}
-
-void ExportResourceCopier::Finish() {
-  Collect(true);
-  // Lets go of the folders the writer kept locked.
-  writes_.reset();
-}
-
-void ExportResourceCopier::Queue(WriteQueue::Job job, const std::string& source) {
-  if (!writes_) writes_.emplace();
-  writes_->Add(std::move(job));
-  Say(source, queued_++);
-}
-
-void ExportResourceCopier::Say(std::string text, uint64_t write) {
-  lines_.push_back({std::move(text), write});
-}
-
-void ExportResourceCopier::Collect(bool all) {
-  if (writes_) {
-    for (WriteQueue::Finished& done : writes_->TakeFinished(all)) {
-      const bool ok = done.status.ok();
-      failed_.push_back(!ok);
-      if (ok && done.job.source.empty()) KeepFile(done.job.path, std::move(done.job.bytes));
-    }
-  }
-  while (!lines_.empty() &&
-         (lines_.front().write == kNoWrite || lines_.front().write < failed_.size())) {
-    const Line& line = lines_.front();
-    if (line.write == kNoWrite) {
-      report_ += line.text;
-    } else if (failed_[line.write]) {
-      report_ += FormatReportLine("Can not copy file: %s\n", line.text.c_str());
-    }
-    lines_.pop_front();
-  }
+  copies_.Collect();
 }
 
 void ExportResourceCopier::CollectVideoLinks(const Type8Resource& questions) {
   for (const Record16& record : questions.records) {
     if (IsVideoLink(record)) referencedIds_.insert(LinkRecord(record).targetNumber());
   }
-}
-
-bool ExportResourceCopier::MakeFolder(const std::string& folder) {
-  if (madeFolders_.count(folder) != 0) return true;
-  if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
-  madeFolders_.insert(folder);
-  return true;
 }
 
 }  // namespace lumora

@@ -1,6 +1,7 @@
 #include <lumora/packages/export_rows.h>
 #include <lumora/packages/package_schema.h>
 #include <lumora/resources/report_format.h>
+#include <lumora/support/paths.h>
 
 #include <algorithm>
 #include <ctime>
@@ -28,13 +29,30 @@ ExportRows::ExportRows(std::unique_ptr<DatabaseConnection> database, std::string
 ExportRows::~ExportRows() { Finish(); }
 
 bool ExportRows::Open(const std::string& exportFolder) {
-  connectionString_ =
-      "DRIVER={Microsoft Access Driver (*.mdb)};DBQ=" + exportFolder + "Content.mdb";
+  databasePath_ = exportFolder + "Content.mdb";
+  connectionString_ = "DRIVER={Microsoft Access Driver (*.mdb)};DBQ=" + databasePath_;
   if (!database_->Open(connectionString_, "", "", 0)) {
     report_ += FormatReportLine("Can not open %s!\n", connectionString_.c_str());
+    // A database that is not there is the caller's to make, and that line says all.
+    if (FileExists(databasePath_)) SayFileFailure("cannot open the package database");
+    return false;
+  }
+  // Opening gives a new database its identifier table without saying whether that worked; an
+  // export without it would not be whole.
+  if (database_->lastError != DatabaseConnection::kSuccess) {
+    report_ += FormatReportLine("Can not open %s!\n", connectionString_.c_str());
+    SayReason("cannot write the identifier table");
     return false;
   }
   return true;
+}
+
+void ExportRows::SayReason(const char* what) {
+  report_ += databasePath_ + ": " + what + ": " + database_->errorReason() + "\n";
+}
+
+void ExportRows::SayFileFailure(const char* what) {
+  if (database_->FileFailed()) SayReason(what);
 }
 
 bool ExportRows::CreateTables() {
@@ -43,9 +61,14 @@ bool ExportRows::CreateTables() {
                                               "Can not create t_PackagesResources table for %s!\n"};
   // The tables belong to the transaction too: a new database is flushed to disk once.
   inTransaction_ = database_->BeginTransaction();
+  if (!inTransaction_) {
+    SayReason("cannot write the package tables");
+    return false;
+  }
   for (size_t i = 0; i < std::size(kCreatePackageTables); ++i) {
     if (!database_->Execute(WideText(kCreatePackageTables[i]))) {
       report_ += FormatReportLine(kFailures[i], connectionString_.c_str());
+      SayFileFailure("cannot write the package tables");
       return false;
     }
   }
@@ -76,6 +99,7 @@ bool ExportRows::AddPackage(uint32_t id, const PackageRecord& package,
   if (!added) {
     report_ += FormatReportLine("Can not add Package [%ld], PackageId = %ld\n",
                                 static_cast<long>(package.idString), static_cast<long>(id));
+    SayFileFailure("cannot write the package tables");
     return false;
   }
   for (uint32_t t = 0; t < translations.size(); ++t) {
@@ -92,6 +116,7 @@ bool ExportRows::AddPackage(uint32_t id, const PackageRecord& package,
       report_ += FormatReportLine("Can not add Translation [%ld], String = %s\n",
                                   static_cast<long>(translation.idString),
                                   translation.text.ToNarrow().c_str());
+      SayFileFailure("cannot write the package tables");
       return false;
     }
   }
@@ -106,19 +131,26 @@ bool ExportRows::AddPackageResource(uint32_t packageId, int32_t type, int32_t re
   if (!added) {
     report_ += FormatReportLine("Can not add in PackageResource [%ld] Item [%ld]\n",
                                 static_cast<long>(type), static_cast<long>(resourceId));
+    SayFileFailure("cannot write the package tables");
   }
   return added;
 }
 
-void ExportRows::Finish() {
-  if (database_ == nullptr) return;
+bool ExportRows::Finish() {
+  if (database_ == nullptr) return true;
   packageInsert_.reset();
   translationInsert_.reset();
   resourceInsert_.reset();
-  if (inTransaction_) database_->CommitTransaction();
+  // The rows are on disk only once the commit succeeds; a failed one leaves none of them.
+  bool committed = true;
+  if (inTransaction_ && !database_->CommitTransaction()) {
+    SayReason("cannot commit the package tables");
+    committed = false;
+  }
   inTransaction_ = false;
   database_->Close();
   database_.reset();
+  return committed;
 }
 
 }  // namespace lumora

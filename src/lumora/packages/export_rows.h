@@ -2,6 +2,12 @@
 // their rows. Every failure appends its line to the report and answers false; the caller stops
 // the export then. The rows go in one transaction, committed by Finish or, whatever happened,
 // when the object goes; the connection is closed and released with it.
+//
+// A statement that fails because of the database file rather than of what it says (a full
+// disk, an I/O error, a lock another program keeps) gets a second line after the one of the
+// statement, naming the file and the engine's reason: "<path>: cannot write the package tables:
+// database or disk is full". A commit that fails gets such a line of its own, since no other
+// line would tell that the rows are not there.
 #pragma once
 
 #include <lumora/packages/database_connection.h>
@@ -29,15 +35,22 @@ class ExportRows {
   // followed by the translations of its title.
   bool AddPackages(const ExportLists& lists);
   bool AddPackageResource(uint32_t packageId, int32_t type, int32_t resourceId);
-  // Commits the rows and closes the connection.
-  void Finish();
+  // Commits the rows and closes the connection; false, with its line said, when the commit
+  // fails. Answers true once finished.
+  bool Finish();
 
  private:
   bool AddPackage(uint32_t id, const PackageRecord& package, const TranslationList& translations);
 
   std::unique_ptr<DatabaseConnection> database_;
   std::string& report_;
+  // Says why the last statement failed, "<path>: <what>: <reason>"; the second one only when
+  // the file is to blame.
+  void SayReason(const char* what);
+  void SayFileFailure(const char* what);
+
   std::string connectionString_;
+  std::string databasePath_;
   bool inTransaction_ = false;
   std::unique_ptr<ado::Command> packageInsert_;
   std::unique_ptr<ado::Command> translationInsert_;

@@ -7,7 +7,7 @@
 #include <lumora/platform/atomic_write.h>
 #include <lumora/platform/kept_files.h>
 #include <lumora/resources/export_indexes.h>
-#include <lumora/resources/media_copy.h>
+#include <lumora/resources/media_copy_queue.h>
 #include <lumora/resources/publish.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/support/content_ini.h>
@@ -60,6 +60,33 @@ void ExportClassification(Classification& classification, const std::string& roo
   if (!saved) report += "Can not copy the set files for the classification.\n";
 }
 
+// Adds the resource rows and copies their files with their media, every fifth row's position
+// sent to `bar`. False when a row cannot be added: the export stops there, after what the
+// copies made so far have to say.
+bool CopyResources(const PackageResourceList& resources, const ExportSource& source,
+                   const std::string& exportFolder, const ByteArray& qualityFolders,
+                   const Progress& bar, ExportRows& rows, std::set<uint32_t>& referencedIds,
+                   std::string& report) {
+  CopyQueue copies(report);
+  ExportResourceCopier copier(source.localRoot, exportFolder, qualityFolders, copies);
+  for (uint32_t i = 0; i < resources.size(); ++i) {
+    const PackageResourceRecord& row = *resources.ObjectAt(i);
+    const size_t said = report.size();
+    if (!rows.AddPackageResource(resources.KeyAt(i), row.idResource, row.idItem)) {
+      const std::string stop = report.substr(said);
+      report.resize(said);
+      copies.Finish();
+      report += stop;
+      return false;
+    }
+    copier.Copy(row.idResource, row.idItem);
+    if (i % 5 == 0) bar.SetPosition(i);
+  }
+  copies.Finish();
+  referencedIds = copier.referencedIds();
+  return true;
+}
+
 }  // namespace
 
 bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const ExportLists& lists,
@@ -76,7 +103,6 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
     return false;
   }
   DeferredFlush flush(root);
-  const MediaCopiedOnce media_once;
   const ListedFiles listed_sources;
   const KeptFiles copies_to_index;
   ExportRows rows(std::move(database), report);
@@ -84,46 +110,35 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
 
   const uint32_t n = lists.packageResources.size();
   bar.SetRange(n + 16);
-  ExportResourceCopier copier(source.localRoot, exportFolder, qualityFolders, report);
-  for (uint32_t i = 0; i < n; ++i) {
-    const PackageResourceRecord& row = *lists.packageResources.ObjectAt(i);
-    const size_t said = report.size();
-    if (!rows.AddPackageResource(lists.packageResources.KeyAt(i), row.idResource, row.idItem)) {
-      // What the copies so far have to say goes before the line that stops the export.
-      const std::string stop = report.substr(said);
-      report.resize(said);
-      copier.Finish();
-      report += stop;
-      return false;
-    }
-    copier.Copy(row.idResource, row.idItem);
-    if (i % 5 == 0) bar.SetPosition(i);
+  std::set<uint32_t> referencedIds;
+  if (!CopyResources(lists.packageResources, source, exportFolder, qualityFolders, bar, rows,
+                     referencedIds, report)) {
+    return false;
   }
-  copier.Finish();
   RebuildExportIndexes(exportFolder);
   for (uint32_t type : kPublishingTypes) PublishResources(type, root, true);
   bar.SetPosition(n + 1);
-  rows.Finish();
+  if (!rows.Finish()) return false;
 
   if (source.classification != nullptr) ExportClassification(*source.classification, root, report);
   const std::string glossaryFolder = LexiconFolder(exportFolder, 1001);
   CreateFolderPath(glossaryFolder);
   if (source.glossary == nullptr ||
-      !ExportPartialGlossary(*source.glossary, copier.referencedIds(), qualityFolders,
-                             glossaryFolder, report)) {
+      !ExportPartialGlossary(*source.glossary, referencedIds, qualityFolders, glossaryFolder,
+                             report)) {
     report += "Problem during creation of the partial glossary.\n";
   }
   bar.SetPosition(n + 5);
   const std::string grammarFolder = LexiconFolder(exportFolder, 1002);
   CreateFolderPath(grammarFolder);
   if (source.grammar == nullptr ||
-      !ExportPartialGrammar(*source.grammar, source.localRoot, copier.referencedIds(),
-                            qualityFolders, grammarFolder, report)) {
+      !ExportPartialGrammar(*source.grammar, source.localRoot, referencedIds, qualityFolders,
+                            grammarFolder, report)) {
     report += "Problem during creation of the partial grammar.\n";
   }
   bar.SetPosition(n + 11);
   if (withDiagnosis) {
-    const std::set<uint32_t> lessons = LessonNumbers(copier.referencedIds());
+    const std::set<uint32_t> lessons = LessonNumbers(referencedIds);
     CLessonsData::GeneratePackage(source.languageParam, source.glossary, source.grammar,
                                   source.localRoot, {lessons.begin(), lessons.end()}, exportFolder,
                                   &report);

@@ -23,8 +23,12 @@
 //  - A resource list that holds the same (package, type, resource) row twice is refused before
 //    anything is written, with the message of a row that cannot be added.
 //  - Files are copied as the library writes every file: staged beside the target and renamed
-//    into place, so an interrupted export leaves whole files or none; the export's files are
-//    flushed to disk once, at the end.
+//    into place, so a killed export leaves whole files or none. The export's files are flushed
+//    to disk once, at the end (a file replacing another is flushed before its rename), so that
+//    after a power loss a new file may be empty; the answer true comes only after that flush.
+//  - Every copy goes through one queue whose writer holds the folders it writes into, so the
+//    export never waits for itself; a failure to commit the rows is said with the database's
+//    path and the engine's reason, like the final flush.
 #pragma once
 
 #include <lumora/packages/database_connection.h>

@@ -2,7 +2,7 @@
 #include <lumora/lexicon/indexed_set_file.h>
 #include <lumora/packages/partial_lexicon.h>
 #include <lumora/packages/table_runs.h>
-#include <lumora/platform/atomic_write.h>
+#include <lumora/resources/media_copy_queue.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/support/paths.h>
 
@@ -80,27 +80,25 @@ class PartialGlossary {
 };
 
 // Copies the sound file of every word with a sound into each quality folder, in the same place
-// below the export's glossary folder as below the source's.
+// below the export's glossary folder as below the source's. False when a folder cannot be made;
+// the copies' own outcomes are the queue's.
 bool CopySoundFiles(const CGloV6& source, const CGloV6& target, const ByteArray& qualityFolders,
-                    std::string& report) {
+                    CopyQueue& copies) {
   bool result = true;
   for (const GloSoundRecord& sound : target.sounds) {
     for (uint8_t quality : qualityFolders) {
       const std::string from = QualityFilePath(source.folder, quality, sound.fnId);
       const std::string to = QualityFilePath(target.folder, quality, sound.fnId);
       if (!FileExists(from)) {
-        report += from + " is missing.\n";
+        copies.Say(from + " is missing.\n");
         continue;
       }
       const std::string parent = FolderOf(to);
-      if (!FolderExists(parent) && !CreateFolderPath(parent)) {
-        report += FormatReportLine("Can not create directory : %s\n", parent.c_str());
+      if (!copies.MakeFolder(parent)) {
+        copies.Say(FormatReportLine("Can not create directory : %s\n", parent.c_str()));
         result = false;
       }
-      if (!CopyFileAtomically(from, to).ok()) {
-        report += FormatReportLine("Can not copy file: %s\n", from.c_str());
-        result = false;
-      }
+      copies.Copy(from, to, FormatReportLine("Can not copy file: %s\n", from.c_str()));
     }
   }
   return result;
@@ -118,7 +116,9 @@ bool ExportPartialGlossary(const CGloV6& source, const std::set<uint32_t>& refer
   partial.CopyLinks(LessonNumbers(referencedIds));
   partial.CopyWords();
   partial.CopyCloudsAndRecos();
-  const bool result = CopySoundFiles(source, target, qualityFolders, report);
+  CopyQueue copies(report);
+  bool result = CopySoundFiles(source, target, qualityFolders, copies);
+  result = copies.Finish() && result;
   rebuildSortAndLetters(target);
   std::vector<uint32_t> qualities(qualityFolders.begin(), qualityFolders.end());
   if (!target.save(true, qualities)) {

@@ -1,6 +1,5 @@
 #include <lumora/packages/partial_lexicon.h>
 #include <lumora/packages/table_runs.h>
-#include <lumora/platform/atomic_write.h>
 #include <lumora/resources/link_record.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/resources/resource_id.h>
@@ -131,13 +130,13 @@ std::string PictureFolder(const std::string& grammarFolder, uint8_t quality, uin
 
 bool CopyPictureFolders(const CGramV6& source, const CGramV6& target,
                         const std::set<uint16_t>& points, const ByteArray& qualityFolders,
-                        std::string& report) {
+                        CopyQueue& copies) {
   bool result = true;
   for (uint16_t point : points) {
     for (uint8_t quality : qualityFolders) {
       const std::string from = PictureFolder(source.folder, quality, point);
-      if (!CopySwfFolder(from, PictureFolder(target.folder, quality, point), report)) {
-        report += "Cannot copy media file: " + from + "\n";
+      if (!CopySwfFolder(from, PictureFolder(target.folder, quality, point), copies)) {
+        copies.Say("Cannot copy media file: " + from + "\n");
         result = false;
       }
     }
@@ -146,16 +145,13 @@ bool CopyPictureFolders(const CGramV6& source, const CGramV6& target,
 }
 
 bool CopyResourceFiles(const CGramV6& source, const CGramV6& target,
-                       const std::set<uint32_t>& numbers, std::string& report) {
-  bool result = true;
+                       const std::set<uint32_t>& numbers, CopyQueue& copies) {
   for (uint32_t number : numbers) {
     const std::string name = NumberedName('r', number) + ".ars";
-    if (!CopyFileAtomically(source.folder + name, target.folder + name).ok()) {
-      report += FormatReportLine("Cannot copy ars file: %s\n", (source.folder + name).c_str());
-      result = false;
-    }
+    copies.Copy(source.folder + name, target.folder + name,
+                FormatReportLine("Cannot copy ars file: %s\n", (source.folder + name).c_str()));
   }
-  return result;
+  return copies.Finish();
 }
 
 }  // namespace
@@ -177,9 +173,10 @@ bool ExportPartialGrammar(const CGramV6& source, const std::string& localRoot,
     report += "Cannot save the files of the partial grammar";
     return false;
   }
+  CopyQueue copies(report);
   const bool pictures =
-      CopyPictureFolders(source, target, copy.pictureFolders(), qualityFolders, report);
-  const bool resources = CopyResourceFiles(source, target, copy.resourceFiles(), report);
+      CopyPictureFolders(source, target, copy.pictureFolders(), qualityFolders, copies);
+  const bool resources = CopyResourceFiles(source, target, copy.resourceFiles(), copies);
   return pictures && resources;
 }
 

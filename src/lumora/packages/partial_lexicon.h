@@ -31,6 +31,7 @@
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/grammar.h>
 #include <lumora/platform/typed_array.h>
+#include <lumora/resources/media_copy_queue.h>
 
 #include <cstdint>
 #include <set>
@@ -63,8 +64,9 @@ bool ExportPartialGrammar(const CGramV6& source, const std::string& localRoot,
                           const std::string& folder, std::string& report);
 
 // Copies the ".swf" files directly in folder `source` into folder `destination`, creating it
-// first; subfolders and other files stay behind. A file that cannot be copied is reported and
-// the others are still copied; false when the destination cannot be made or any copy failed.
-bool CopySwfFolder(const std::string& source, const std::string& destination, std::string& report);
+// first, through `copies`, and waits for them; subfolders and other files stay behind. A file
+// that cannot be copied is reported and the others are still copied; false when the destination
+// cannot be made or any copy asked for since the queue's last Finish failed.
+bool CopySwfFolder(const std::string& source, const std::string& destination, CopyQueue& copies);
 
 }  // namespace lumora

@@ -1,6 +1,5 @@
 #include <lumora/packages/partial_lexicon.h>
 #include <lumora/platform/ascii_text.h>
-#include <lumora/platform/atomic_write.h>
 #include <lumora/resources/report_format.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>
@@ -16,23 +15,20 @@ bool IsSwfName(std::string_view name) {
 
 }  // namespace
 
-bool CopySwfFolder(const std::string& source, const std::string& destination, std::string& report) {
+bool CopySwfFolder(const std::string& source, const std::string& destination, CopyQueue& copies) {
   const std::string from = WithBackslash(source);
   const std::string to = WithBackslash(destination);
-  if (!FolderExists(to) && !CreateFolderPath(to)) {
-    report += FormatReportLine("Can not create directory : %s\n", destination.c_str());
+  if (!copies.MakeFolder(to)) {
+    copies.Say(FormatReportLine("Can not create directory : %s\n", destination.c_str()));
     return false;
   }
-  bool result = true;
   // A source folder that cannot be listed has nothing to copy.
   for (const FolderEntry& entry : ListFolder(from).value_or(std::vector<FolderEntry>{})) {
     if (entry.isFolder || !IsSwfName(entry.name)) continue;
-    if (!CopyFileAtomically(from + entry.name, to + entry.name).ok()) {
-      report += FormatReportLine("Cannot copy file: %s\n", (from + entry.name).c_str());
-      result = false;
-    }
+    copies.Copy(from + entry.name, to + entry.name,
+                FormatReportLine("Cannot copy file: %s\n", (from + entry.name).c_str()));
   }
-  return result;
+  return copies.Finish();
 }
 
 }  // namespace lumora

@@ -134,8 +134,12 @@ WriteStatus Replace(const std::string& path, const FolderLock* held, StageIt&& s
   const Target target{path, held->fd(), path.substr(folder.size())};
   Existing existing;
   if (WriteStatus check = CheckTarget(target, &existing); !check.ok()) return check;
+  // A deferred flush still flushes the bytes of a file that replaces another before the rename:
+  // after a power loss the target then holds the old bytes or the new ones, never an empty
+  // file where a whole one was. A new file may be lost or empty then, as nothing was there.
   const bool flush = !flush_deferred;
-  if (WriteStatus staged = stage(target, existing, flush); !staged.ok()) return staged;
+  if (WriteStatus staged = stage(target, existing, flush || existing.replacing); !staged.ok())
+    return staged;
   if (int error = disk::RenameAt(target.folder_fd, target.staging_name(), target.name,
                                  StagingPath(path), path)) {
     disk::Remove(StagingPath(path));

@@ -50,8 +50,10 @@ WriteStatus CopyFileInLockedFolder(const FolderLock& lock, const std::string& so
 
 // Writing a whole new tree of many files (a sample, an export): while one lives on the calling
 // thread, WriteFileAtomically still stages and renames each file but leaves flushing to
-// Finish, which flushes the file system that holds `folder` once. Each file stays whole or
-// absent whatever happens; the tree as a whole is durable once Finish succeeds.
+// Finish, which flushes the file system that holds `folder` once. A killed process leaves each
+// file whole or absent. A power loss leaves a file that was replaced old or new (its bytes are
+// flushed before its rename all the same), while a new file may be absent or empty; the tree as
+// a whole is durable once Finish succeeds.
 // Whether a DeferredFlush lives on the calling thread: writers of several files leave their
 // flushes to it too.
 bool FlushesDeferred();

@@ -1,12 +1,11 @@
 #include <lumora/platform/atomic_write.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/media_copy.h>
+#include <lumora/resources/media_copy_queue.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
-#include <system_error>
-#include <unordered_set>
 
 namespace lumora {
 namespace {
@@ -23,23 +22,17 @@ std::string LocalPathOf(const std::string& unc_path, const std::string& root) {
   return root + relative;
 }
 
-// The MediaCopiedOnce living on this thread; null when none does.
-thread_local MediaCopiedOnce* copied_once = nullptr;
-
 }  // namespace
-
-MediaCopiedOnce::MediaCopiedOnce() : previous_(copied_once) { copied_once = this; }
-
-MediaCopiedOnce::~MediaCopiedOnce() { copied_once = previous_; }
 
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name) {
   const std::string destination = folder + name;
-  if (copied_once != nullptr && copied_once->copied_.count(destination) != 0) return true;
-  const bool made = copied_once != nullptr && copied_once->folders_.count(folder) != 0;
-  if (!made && !FolderExists(folder) && !CreateFolderPath(folder)) return false;
-  if (copied_once != nullptr) copied_once->folders_.insert(folder);
-  if (!CopyFileAtomically(from, destination).ok()) return false;
-  if (copied_once != nullptr) copied_once->copied_.insert(destination);
+  CopyQueue* queue = CopyQueue::Current();
+  if (queue == nullptr) {
+    if (!FolderExists(folder) && !CreateFolderPath(folder)) return false;
+    return CopyFileAtomically(from, destination).ok();
+  }
+  if (!queue->MakeFolder(folder)) return false;
+  if (queue->ClaimDestination(destination)) queue->Copy(from, destination, std::string());
   return true;
 }
 

@@ -7,32 +7,15 @@
 
 #include <cstdint>
 #include <string>
-#include <unordered_set>
 
 namespace lumora {
 
 // Copies the file `from` to folder + name, replacing a file already there, after creating
 // the folder and any missing parents. False when a folder cannot be created or the copy fails.
+// While a CopyQueue lives on the calling thread (an export), the copy is that queue's, made once
+// per destination, and a failure is the queue's to know: the answer is whether the copy could
+// be asked for.
 bool CopyFileInto(const std::string& from, const std::string& folder, const std::string& name);
-
-// While one lives on the calling thread, CopyFileInto copies to each destination once: the
-// resources of an export share media, and a medium already copied by one of them is there
-// for the others. It also remembers the folders it made or found, which nothing removes
-// meanwhile.
-class MediaCopiedOnce {
- public:
-  MediaCopiedOnce();
-  ~MediaCopiedOnce();
-  MediaCopiedOnce(const MediaCopiedOnce&) = delete;
-  MediaCopiedOnce& operator=(const MediaCopiedOnce&) = delete;
-
- private:
-  friend bool CopyFileInto(const std::string&, const std::string&, const std::string&);
-
-  std::unordered_set<std::string> copied_;
-  std::unordered_set<std::string> folders_;
-  MediaCopiedOnce* previous_;
-};
 
 class MediaCopier {
  public:

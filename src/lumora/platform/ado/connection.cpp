@@ -1,3 +1,4 @@
+#include <lumora/platform/ado/busy_wait.h>
 #include <lumora/platform/ado/connection.h>
 #include <lumora/platform/ado/connection_string.h>
 #include <lumora/platform/ado/engine.h>
@@ -52,6 +53,8 @@ void Connection::Open(std::string_view connection_string, std::string_view, std:
     sqlite3_close_v2(db);
     throw error;
   }
+  file_ = *file;
+  WaitWhileLockedElsewhere(db, file_);
   try {
     Statement(db, kProbe, kConnectionSource).Step();
   } catch (...) {

@@ -64,6 +64,7 @@ class Connection {
  private:
   int32_t mode_ = 0;
   sqlite3* db_ = nullptr;
+  std::string file_;  // the database file, named when another program keeps it locked
 };
 
 }  // namespace lumora::ado
