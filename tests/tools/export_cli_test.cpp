@@ -102,7 +102,7 @@ TEST_F(CheckedExportCli, MediaTheExportLeavesBehindAreOneWarningPerTypeUnlessCop
   EXPECT_EQ(all["allMedia"]["problems"], json::array());
   EXPECT_EQ(all["filesCopied"],
             summary["filesCopied"].get<int>() + all["allMedia"]["files"].get<int>());
-  EXPECT_EQ(all["allMedia"]["files"], 2);
+  EXPECT_EQ(all["allMedia"]["files"], 6);  // two pictures, one in each quality folder
   EXPECT_FALSE(fs::exists(out.path() + "plain/D001/C0001/r0000021/Q1"));
   EXPECT_TRUE(fs::exists(out.path() + "copied/D001/C0001/r0000021/Q1"));
 
