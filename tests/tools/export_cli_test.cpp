@@ -25,7 +25,7 @@ class ExportCli : public SampleContentSuite {
 };
 
 TEST_F(ExportCli, ExportsIntoAContentRootOfItsOwnAndSaysWhatItWrote) {
-  const CliResult result = Export("--packages 1,4 --json");
+  const CliResult result = Export("--packages 1,4 --json --no-check");
   ASSERT_EQ(result.exit_code, 0) << result.out << result.err;
   const json summary = json::parse(result.out);
   EXPECT_EQ(summary["ok"], true);
@@ -43,7 +43,7 @@ TEST_F(ExportCli, ExportsIntoAContentRootOfItsOwnAndSaysWhatItWrote) {
   EXPECT_EQ(json::parse(packages.out).size(), 2u);
 
   // Again into the same place: the database already holds its tables.
-  const CliResult again = Export("--packages 1 --progress");
+  const CliResult again = Export("--packages 1 --progress --no-check");
   EXPECT_EQ(again.exit_code, 1);
   EXPECT_NE(again.out.find("Can not create t_Packages table for "), std::string::npos);
   EXPECT_NE(again.err.find("the export reported problems"), std::string::npos);
@@ -55,17 +55,93 @@ TEST_F(ExportCli, CustomListsComeFromAJsonFile) {
       "translations": [{"idString": 70, "language": 17, "text": "L'été"}],
       "packageResources": [{"package": 7, "type": 40, "item": 1048577}],
       "packageIds": [7]})");
-  const CliResult result = Export("--custom " + lists + " --progress");
+  const CliResult result = Export("--custom " + lists + " --progress --no-check");
   ASSERT_EQ(result.exit_code, 0) << result.out << result.err;
   EXPECT_NE(result.err.find("1/1 resources  done"), std::string::npos) << result.err;
   EXPECT_FALSE(fs::exists(out.path() + "dest/D001/Diagnosis.txt"));
   const CliResult packages = RunCli("packages " + out.path() + "dest -d 1");
   EXPECT_NE(packages.out.find("FRA (1252): L'été"), std::string::npos) << packages.out;
+}
 
-  const std::string broken = out.Write("broken.json", R"({"packages": [{"id": 7}]})");
-  const CliResult refused = Export("--custom " + broken);
-  EXPECT_EQ(refused.exit_code, 1);
-  EXPECT_NE(refused.err.find(broken + ": "), std::string::npos) << refused.err;
+// Lists of one resource row, exported with the check.
+class CheckedExportCli : public ExportCli {
+ protected:
+  CliResult ExportRow(uint32_t type, uint32_t item, const std::string& dest,
+                      const std::string& args = "--json") {
+    const std::string lists = out.Write(
+        "row.json", R"({"packageResources": [{"package": 1, "type": )" + std::to_string(type) +
+                        R"(, "item": )" + std::to_string(item) + "}]}");
+    return RunCli("export " + root() + " -d 1 --custom " + lists + " --to " + out.path() + dest +
+                  " " + args);
+  }
+
+  static json Findings(const json& summary, const std::string& check) {
+    for (const json& report : summary["checks"]) {
+      if (report["name"] == check) return report["findings"];
+    }
+    return nullptr;
+  }
+};
+
+TEST_F(CheckedExportCli, MediaTheExportLeavesBehindAreOneWarningPerTypeUnlessCopied) {
+  const CliResult plain = ExportRow(21, 0x100001, "plain");
+  ASSERT_EQ(plain.exit_code, 0) << plain.out << plain.err;
+  const json summary = json::parse(plain.out);
+  EXPECT_EQ(summary["ok"], true);
+  ASSERT_EQ(summary["checks"].size(), 9u);
+  const json media = Findings(summary, "media");
+  ASSERT_EQ(media.size(), 1u) << media;
+  EXPECT_EQ(media[0]["severity"], "warning");
+  EXPECT_EQ(media[0]["count"], 2);
+  EXPECT_NE(media[0]["message"].get<std::string>().find("type 21"), std::string::npos);
+
+  const CliResult copied = ExportRow(21, 0x100001, "copied", "--json --all-media");
+  ASSERT_EQ(copied.exit_code, 0) << copied.out << copied.err;
+  const json all = json::parse(copied.out);
+  EXPECT_EQ(Findings(all, "media"), json::array());
+  EXPECT_EQ(all["allMedia"]["problems"], json::array());
+  EXPECT_EQ(all["filesCopied"],
+            summary["filesCopied"].get<int>() + all["allMedia"]["files"].get<int>());
+  EXPECT_EQ(all["allMedia"]["files"], 6);  // two pictures, one in each quality folder
+  EXPECT_FALSE(fs::exists(out.path() + "plain/D001/C0001/r0000021/Q1"));
+  EXPECT_TRUE(fs::exists(out.path() + "copied/D001/C0001/r0000021/Q1"));
+
+  const CliResult unchecked = ExportRow(21, 0x100001, "unchecked", "--json --no-check");
+  EXPECT_FALSE(json::parse(unchecked.out).contains("checks"));
+}
+
+TEST_F(CheckedExportCli, AMediumTheExportFailedToCopyFailsTheCommand) {
+  // A folder where a picture goes: the library's copy fails, and the library does not say so.
+  fs::create_directories(out.path() + "blocked/D001/C0001/r0000009/Q1/p0000001.swf");
+  const CliResult result = ExportRow(9, 0x100001, "blocked", "");
+  EXPECT_EQ(result.exit_code, 1);
+  EXPECT_EQ(result.out.find("(with problems)"), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("error   D001/C0001/r0000009/r0000001.ars: Media not found"),
+            std::string::npos)
+      << result.out;
+  EXPECT_NE(result.err.find("found 1 error that the source does not have"), std::string::npos)
+      << result.err;
+}
+
+TEST_F(CheckedExportCli, WhatTheSourceLacksTooIsInheritedAndFilesCopiedCountsOnlyNewFiles) {
+  const CliResult fresh = ExportRow(1006, 0x100003, "fresh");
+  ASSERT_EQ(fresh.exit_code, 0) << fresh.out << fresh.err;
+  const json summary = json::parse(fresh.out);
+  const json media = Findings(summary, "media");
+  ASSERT_EQ(media.size(), 1u) << media;
+  EXPECT_EQ(media[0]["severity"], "error");
+  EXPECT_EQ(media[0]["inherited"], true);
+
+  // Files that were there before the export are not its own.
+  out.Write("old/D001/earlier.txt", "kept");
+  out.Write("old/Classes/earlier.txt", "kept");
+  const CliResult beside = ExportRow(1006, 0x100003, "old", "--json --no-check");
+  ASSERT_EQ(beside.exit_code, 0) << beside.out << beside.err;
+  EXPECT_EQ(json::parse(beside.out)["filesCopied"], summary["filesCopied"]);
+  EXPECT_EQ(json::parse(beside.out)["bytesCopied"], summary["bytesCopied"]);
+
+  const CliResult text = ExportRow(1006, 0x100003, "text", "");
+  EXPECT_NE(text.out.find("p0000033.swf! (the source has it too)"), std::string::npos) << text.out;
 }
 
 TEST_F(ExportCli, UsageErrorsAndDestinationsThatCannotServe) {

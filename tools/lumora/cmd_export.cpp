@@ -1,8 +1,12 @@
 // `lumora export ROOT -d ID (--packages P[,P...] [--quality 1,2,3] | --custom LISTS.json
-// [--with-diagnosis]) --to DEST [--progress] [--json]`: exports packages of a discipline into
-// DEST/D%03d/. The tool makes what the library expects to find there: the folder, its empty
-// Content.mdb and, when DEST has none, a Content.ini whose one section describes the exported
-// discipline, so that the export is a content root of its own.
+// [--with-diagnosis]) --to DEST [--all-media] [--no-check] [--progress] [--json]`: exports
+// packages of a discipline into DEST/D%03d/. The tool makes what the library expects to find
+// there: the folder, its empty Content.mdb and, when DEST has none, a Content.ini whose one
+// section describes the exported discipline, so that the export is a content root of its own.
+//
+// The library's answer does not tell everything: it stays silent about a medium, an index or a
+// published file it failed to write. So the tool checks the export afterwards, and an error
+// there that the source does not have fails the command like a line of the report.
 #include <lumora/lumora.h>
 #include <lumora/packages/export_folder.h>
 #include <lumora/platform/atomic_write.h>
@@ -22,11 +26,16 @@
 #include <sstream>
 #include <vector>
 
+#include "check_progress.h"
 #include "commands.h"
 #include "content_args.h"
+#include "export_check.h"
+#include "export_check_print.h"
 #include "export_lists.h"
 #include "export_progress.h"
 #include "printable_text.h"
+#include "uncopied_media.h"
+#include "written_files.h"
 
 namespace lumora::cli {
 namespace {
@@ -41,6 +50,8 @@ struct Options {
   std::string custom;
   bool withDiagnosis = false;
   std::string destination;
+  bool allMedia = false;
+  bool noCheck = false;
   bool progress = false;
   bool json = false;
 };
@@ -120,27 +131,6 @@ std::string PrepareDestination(const Options& options) {
   return exportFolder;
 }
 
-struct Written {
-  uint64_t files = 0;
-  uint64_t bytes = 0;
-};
-
-// What the export wrote: the files of the export folder (its database aside) and of Classes.
-Written WrittenBy(const std::string& exportFolder, const std::string& destination) {
-  Written written;
-  std::error_code error;
-  for (const std::string& folder : {exportFolder, WithBackslash(destination) + "Classes"}) {
-    for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end;
-         it.increment(error)) {
-      if (!it->is_regular_file(error) || it->path() == fs::path(exportFolder + "Content.mdb"))
-        continue;
-      ++written.files;
-      written.bytes += it->file_size(error);
-    }
-  }
-  return written;
-}
-
 std::vector<std::string> ReportLines(const std::string& report) {
   std::vector<std::string> lines;
   std::istringstream in(report);
@@ -153,57 +143,137 @@ bool ShowsProgress(const Options& options) {
   return !options.json && (options.progress || ::isatty(STDERR_FILENO));
 }
 
-void Run(const Options& options) {
-  const bool custom = !options.custom.empty();
-  std::optional<CustomLists> lists;
-  if (custom) lists = ReadCustomLists(options.custom);
+// The custom lists, or none; a list that cannot be exported is a usage error.
+std::optional<CustomLists> ListsOf(const Options& options) {
+  if (options.custom.empty()) return std::nullopt;
+  try {
+    return ReadCustomLists(options.custom);
+  } catch (const BadCustomLists& bad) {
+    throw CLI::ValidationError("--custom", bad.what());
+  }
+}
+
+struct Exported {
+  bool ok = false;
+  uint32_t resources = 0;
+  std::vector<std::string> report;
+};
+
+// The library's export, with its progress bar.
+Exported RunExport(const Options& options, const std::optional<CustomLists>& lists,
+                   const ByteArray& quality) {
+  Exported exported;
+  exported.resources = lists ? lists->packageResources.size() : 0;
   DWordArray packageIds;
   for (const std::string& id : options.packages) packageIds.Add(ParseNumber(id, "package"));
-  const ByteArray quality = ParseQualityFolders(options.quality);
-  OpenedContent content(options.root, options.discipline, !custom);
-  if (!content.ok()) {
-    throw CommandFailure("cannot open discipline " + std::to_string(options.discipline) +
-                         (custom ? "" : " with its package database") + " below " + options.root);
-  }
-  const std::string exportFolder = PrepareDestination(options);
-
-  std::string report;
-  uint32_t resources = custom ? lists->packageResources.size() : 0;
   std::optional<ExportProgressBar> bar;
   const bool shows = ShowsProgress(options);
   // The number of rows is known once the library has read them: the range, n + 16, tells it.
   const Progress progress(
       [&](uint32_t maximum) {
-        resources = maximum - 16;
-        if (shows) bar.emplace(resources, maximum);
+        exported.resources = maximum - 16;
+        if (shows) bar.emplace(exported.resources, maximum);
       },
       [&](uint32_t position) {
         if (bar) bar->Draw(position);
       });
-  const bool ok =
-      custom ? lmExportCustomizedPackage(&lists->packages, &lists->translations,
-                                         &lists->packageResources, &lists->packageIds,
-                                         options.discipline, &quality, options.destination.c_str(),
-                                         &progress, &report, options.withDiagnosis)
-             : lmExportPackage(options.discipline, packageIds, quality, options.destination.c_str(),
-                               &progress, &report);
-  bar.reset();
-  const Written written = WrittenBy(exportFolder, options.destination);
-  const std::vector<std::string> lines = ReportLines(report);
-  if (options.json) {
-    PrintJson({{"ok", ok},
-               {"exportFolder", PrintableText(exportFolder)},
-               {"report", lines},
-               {"resources", resources},
-               {"filesCopied", written.files},
-               {"bytesCopied", written.bytes}});
-  } else {
-    for (const std::string& line : lines) std::printf("%s\n", line.c_str());
-    std::printf("%s: %u resources, %llu files, %llu bytes%s\n", PrintableText(exportFolder).c_str(),
-                resources, static_cast<unsigned long long>(written.files),
-                static_cast<unsigned long long>(written.bytes), ok ? "" : " (with problems)");
+  std::string report;
+  exported.ok = lists ? lmExportCustomizedPackage(
+                            &lists->packages, &lists->translations, &lists->packageResources,
+                            &lists->packageIds, options.discipline, &quality,
+                            options.destination.c_str(), &progress, &report, options.withDiagnosis)
+                      : lmExportPackage(options.discipline, packageIds, quality,
+                                        options.destination.c_str(), &progress, &report);
+  exported.report = ReportLines(report);
+  return exported;
+}
+
+std::vector<ExportCheckReport> RunChecks(const Options& options, ExportCheckInput input) {
+  std::optional<CheckProgressBar> bar;
+  const Progress progress([](uint32_t) {},
+                          [&](uint32_t position) {
+                            if (bar) bar->Draw(position);
+                          });
+  if (ShowsProgress(options)) {
+    bar.emplace(ExportCheckNames());
+    input.progress = &progress;
   }
-  if (!ok) throw CommandFailure("the export reported problems");
+  return CheckExport(input);
+}
+
+uint64_t DamageOf(const std::vector<ExportCheckReport>& reports) {
+  uint64_t damage = 0;
+  for (const ExportCheckReport& r : reports) damage += r.damage();
+  return damage;
+}
+
+nlohmann::ordered_json CopyJson(const UncopiedMediaCopy& copy) {
+  std::vector<std::string> problems;
+  for (const std::string& problem : copy.problems) problems.push_back(PrintableText(problem));
+  return {{"files", copy.files}, {"bytes", copy.bytes}, {"problems", problems}};
+}
+
+void Run(const Options& options) {
+  const std::optional<CustomLists> lists = ListsOf(options);
+  const ByteArray quality = ParseQualityFolders(options.quality);
+  OpenedContent content(options.root, options.discipline, !lists);
+  if (!content.ok()) {
+    throw CommandFailure("cannot open discipline " + std::to_string(options.discipline) +
+                         (lists ? "" : " with its package database") + " below " + options.root);
+  }
+  const std::string sourceLocalRoot = DisciplineFor(options.discipline).localRoot;
+  const std::string exportFolder = PrepareDestination(options);
+  // What the export writes: the files of the export folder (its database aside) and of Classes.
+  const WrittenFiles written({exportFolder, WithBackslash(options.destination) + "Classes"},
+                             exportFolder + "Content.mdb");
+
+  const Exported exported = RunExport(options, lists, quality);
+  std::optional<UncopiedMediaCopy> copy;
+  if (options.allMedia) copy = CopyUncopiedMedia(sourceLocalRoot, exportFolder, quality);
+  const WrittenFiles::Count count = written.Since();
+  std::optional<std::vector<ExportCheckReport>> checks;
+  if (!options.noCheck) {
+    checks = RunChecks(options, {options.root, sourceLocalRoot, options.destination, exportFolder,
+                                 options.discipline, quality, options.allMedia});
+  }
+  const bool copied = !copy || copy->problems.empty();
+  const uint64_t damage = checks ? DamageOf(*checks) : 0;
+  if (options.json) {
+    nlohmann::ordered_json summary = {{"ok", exported.ok && copied && damage == 0},
+                                      {"exportFolder", PrintableText(exportFolder)},
+                                      {"report", exported.report},
+                                      {"resources", exported.resources},
+                                      {"filesCopied", count.files},
+                                      {"bytesCopied", count.bytes}};
+    if (copy) summary["allMedia"] = CopyJson(*copy);
+    if (checks) summary["checks"] = ExportChecksJson(*checks);
+    PrintJson(summary);
+  } else {
+    for (const std::string& line : exported.report) std::printf("%s\n", line.c_str());
+    if (copy) {
+      for (const std::string& problem : copy->problems)
+        std::printf("%s\n", PrintableText(problem).c_str());
+    }
+    std::printf("%s: %u resources, %llu files, %llu bytes%s\n", PrintableText(exportFolder).c_str(),
+                exported.resources, static_cast<unsigned long long>(count.files),
+                static_cast<unsigned long long>(count.bytes),
+                exported.ok && copied ? "" : " (with problems)");
+    if (copy) {
+      std::printf("--all-media: %llu files, %llu bytes\n",
+                  static_cast<unsigned long long>(copy->files),
+                  static_cast<unsigned long long>(copy->bytes));
+    }
+    if (checks) {
+      std::printf("\n");
+      PrintExportChecks(*checks);
+    }
+  }
+  if (!exported.ok) throw CommandFailure("the export reported problems");
+  if (!copied) throw CommandFailure("media of --all-media could not be copied");
+  if (damage > 0) {
+    throw CommandFailure("the check of the export found " + std::to_string(damage) +
+                         (damage == 1 ? " error" : " errors") + " that the source does not have");
+  }
 }
 
 void AddExportCommand(CLI::App& app) {
@@ -229,6 +299,10 @@ void AddExportCommand(CLI::App& app) {
                  "With --custom: write the diagnosis package file too")
       ->needs(custom);
   command->add_option("--to", options->destination, "Destination root")->required();
+  command->add_flag("--all-media", options->allMedia,
+                    "Copy too the media that the export copies for no resource of types 19, 21, "
+                    "28 and 1003");
+  command->add_flag("--no-check", options->noCheck, "Do not check the export once it is written");
   command->add_flag("--progress", options->progress, "Show the progress bar even off a terminal");
   command->add_flag("--json", options->json, "Print JSON instead of text (no progress bar)");
   command->callback([options, packages, custom] {
