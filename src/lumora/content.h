@@ -95,7 +95,9 @@ class ContentRoot {
   // `lumora open --json`: {"ok", "disciplines": [{"id", "localRoot", ...}]}.
   Description DescribeOpen() const;
 
-  // The resource ids a type's index lists, in index order; empty for a type without index.
+  // The resources a type's index lists, in index order, as resource ids: an index lists numbers
+  // only, so each takes the course whose folder holds its file (course 0 when none does, and
+  // reading it then says which file is missing). Empty for a type without index.
   std::vector<uint32_t> ResourceIds(uint32_t discipline, uint32_t type) const;
   // `lumora resource --json`: the resource decoded, its media resolved. On failure the document
   // is the one the tool prints then (ok false, the reason) and the status says why.

@@ -190,12 +190,15 @@ Exported RunExport(const Options& options, const std::optional<CustomLists>& lis
 
 std::vector<ExportCheckReport> RunChecks(const Options& options, ExportCheckInput input) {
   std::optional<CheckProgressBar> bar;
-  const Progress progress([](uint32_t) {},
-                          [&](uint32_t position) {
-                            if (bar) bar->Draw(position);
-                          });
+  const Progress progress(
+      [&](uint32_t maximum) {
+        if (bar) bar->SetRange(maximum);
+      },
+      [&](uint32_t position) {
+        if (bar) bar->Draw(position);
+      });
   if (ShowsProgress(options)) {
-    bar.emplace(ExportCheckNames());
+    bar.emplace();
     input.progress = &progress;
   }
   return CheckExport(input);
