@@ -1,14 +1,16 @@
 // The second include, for programs that inspect, convert, rebuild or write content rather than show
 // it; the lumora tool uses nothing else. Beside lumora.h's entry points it gives: the integrity
-// check of a whole content root, the open disciplines' roots and why their glossary, grammar or
-// the classification did not load, the exercise types and resource numbering, index rebuilds,
-// set-file and glossary-order checks and rebuilds, the package export and its queries, text
-// labels of resources, code pages and UTF-8, checksums, the language table, INI files, atomic
-// writes, the internal log and the sample content writer.
+// check of a whole content root, the descriptions of what was read (what --json prints), the open
+// disciplines' roots and why their glossary, grammar or the classification did not load, the
+// exercise types and resource numbering, index rebuilds, set-file and glossary-order checks and
+// rebuilds, the package export and its queries, text labels of resources, code pages and UTF-8,
+// checksums, the language table, INI files, atomic writes, the internal log and the sample content
+// writer.
 #pragma once
 
 #include <lumora/check/content_check.h>
 #include <lumora/check/media_verification.h>
+#include <lumora/describe/describe.h>
 #include <lumora/frame/load_failures.h>
 #include <lumora/frame/opened_disciplines.h>
 #include <lumora/frame/package_queries.h>

@@ -1,11 +1,8 @@
 // `lumora classification ROOT [--json]`: the five classification tables that opening ROOT
 // loads, the grammatical categories with the label each interface language gets.
+#include <lumora/describe/classification_description.h>
 #include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
-#include <lumora/platform/utf8.h>
-#include <lumora/support/language_table.h>
-
-#include <nlohmann/json.hpp>
 
 #include <cstdio>
 #include <memory>
@@ -17,51 +14,12 @@
 namespace lumora::cli {
 namespace {
 
-// The languages that have a category label of their own, in the order the labels are stored.
-constexpr const char* kLabelCodes[] = {"ANG", "FRA", "ALL", "ESP", "ITA",
-                                       "DUT", "AME", "CHS", "JPN"};
-
 struct Options {
   std::string root;
   bool json = false;
 };
 
-template <typename Record>
-nlohmann::ordered_json RecordJson(const Record& record) {
-  return {{"id", record.id}, {"label", Utf16ToUtf8(record.label)}, {"value", record.value}};
-}
-
-template <typename Record>
-nlohmann::ordered_json TableJson(const SetTable<Record>& table) {
-  nlohmann::ordered_json records = nlohmann::ordered_json::array();
-  for (const Record& record : table) records.push_back(RecordJson(record));
-  return records;
-}
-
-nlohmann::ordered_json CatGramJson(const Classification& classification) {
-  nlohmann::ordered_json records = nlohmann::ordered_json::array();
-  for (const CatGramRecord& record : classification.catGram) {
-    nlohmann::ordered_json labels = nlohmann::ordered_json::object();
-    for (const char* code : kLabelCodes) {
-      labels[code] = Utf16ToUtf8(classification.getCatGramLabel(NumberOfCode(code), record.id));
-    }
-    nlohmann::ordered_json json = RecordJson(record);
-    json["labels"] = labels;
-    records.push_back(json);
-  }
-  return records;
-}
-
-nlohmann::ordered_json ClassificationJson(const Classification& c) {
-  return {{"folder", PrintableText(c.folder, kWindowsAnsi)},
-          {"t_FamSem", TableJson(c.famSem)},
-          {"t_CatGram", CatGramJson(c)},
-          {"t_GrammarPoint_Category", TableJson(c.grammarPointCategories)},
-          {"t_Verb_Tense", TableJson(c.verbTenses)},
-          {"t_Expression_SyntacticFunction", TableJson(c.syntacticFunctions)}};
-}
-
-void PrintText(const nlohmann::ordered_json& json) {
+void PrintText(const Description& json) {
   std::printf("folder %s\n", json["folder"].get<std::string>().c_str());
   for (const auto& [table, records] : json.items()) {
     if (!records.is_array()) continue;
@@ -87,7 +45,7 @@ void Run(const Options& options) {
   if (const auto failure = ClassificationLoadFailure()) {
     throw CommandFailure(FailureText(options.root, *failure));
   }
-  const nlohmann::ordered_json json = ClassificationJson(classification);
+  const Description json = DescribeClassification(classification);
   if (options.json) {
     PrintJson(json);
   } else {

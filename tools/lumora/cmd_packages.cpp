@@ -1,13 +1,10 @@
 // `lumora packages ROOT -d ID [--resources P[,P...]] [--json]`: a discipline's packages with
 // version, generation date and title in every language, or the resource rows of some of them.
+#include <lumora/describe/package_description.h>
 #include <lumora/frame/package_queries.h>
 #include <lumora/lumora.h>
-#include <lumora/support/language_table.h>
-
-#include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <ctime>
 #include <memory>
 #include <vector>
 
@@ -25,29 +22,6 @@ struct Options {
   bool json = false;
 };
 
-// As the export writes dates: local time, "YYYY/MM/DD HH:MM:SS".
-std::string DateText(CalendarTime date) {
-  const std::time_t time = date;
-  std::tm tm{};
-  localtime_r(&time, &tm);
-  char text[32];
-  std::strftime(text, sizeof text, "%Y/%m/%d %H:%M:%S", &tm);
-  return text;
-}
-
-nlohmann::ordered_json TitlesJson(const TranslationList& translations, int32_t id_string) {
-  nlohmann::ordered_json titles = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < translations.size(); ++i) {
-    const TranslationRecord& t = translations[i];
-    if (t.idString != id_string) continue;
-    titles.push_back({{"language", t.idLanguage},
-                      {"code", LanguageRow(t.idLanguage).code},
-                      {"codePage", t.text.codePage},
-                      {"text", Utf8(t.text.text)}});
-  }
-  return titles;
-}
-
 void PrintPackages(const Options& options) {
   PackageList packages;
   if (!lmGetPackages(options.discipline, &packages)) {
@@ -57,15 +31,7 @@ void PrintPackages(const Options& options) {
   // A discipline without translations still lists its packages, untitled.
   TranslationList translations;
   lmGetPackageTranslations(options.discipline, &translations);
-  nlohmann::ordered_json rows = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < packages.size(); ++i) {
-    const PackageRecord& p = *packages.ObjectAt(i);
-    rows.push_back({{"id", packages.KeyAt(i)},
-                    {"version", p.version},
-                    {"date", DateText(p.dateLastGeneration)},
-                    {"idString", p.idString},
-                    {"titles", TitlesJson(translations, p.idString)}});
-  }
+  const Description rows = DescribePackages(packages, translations);
   if (options.json) {
     PrintJson(rows);
     return;
@@ -89,11 +55,7 @@ void PrintResources(const Options& options) {
     throw CommandFailure("no package resource could be read for discipline " +
                          std::to_string(options.discipline));
   }
-  nlohmann::ordered_json list = nlohmann::ordered_json::array();
-  for (uint32_t i = 0; i < rows.size(); ++i) {
-    const PackageResourceRecord& r = *rows.ObjectAt(i);
-    list.push_back({{"package", rows.KeyAt(i)}, {"type", r.idResource}, {"item", r.idItem}});
-  }
+  const Description list = DescribePackageResources(rows);
   if (options.json) {
     PrintJson(list);
     return;

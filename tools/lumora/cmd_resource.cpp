@@ -1,11 +1,10 @@
 // `lumora resource ROOT -d ID --type T --id RID [--path-kind K] [--order N] [--no-media]`: one
 // resource decoded, with the paths of its media.
+#include <lumora/describe/resource_description.h>
 #include <lumora/frame/resource_reading.h>
 #include <lumora/lumora.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/type_catalog.h>
-
-#include <nlohmann/json.hpp>
 
 #include <cstdio>
 #include <iostream>
@@ -13,8 +12,8 @@
 
 #include "commands.h"
 #include "content_args.h"
+#include "human_form.h"
 #include "printable_text.h"
-#include "resource_json.h"
 #include "tree_print.h"
 
 namespace lumora::cli {
@@ -42,25 +41,19 @@ void Run(const Options& options) {
       RequestFor(options.discipline, ParsePathKind(options.pathKind), options.order);
   const LoadResult read = ReadResource(&request, resource_id, resource.get(), !options.noMedia);
   const bool ok = read.ok();
-
-  nlohmann::ordered_json out{{"ok", ok},
-                             {"type", options.type},
-                             {"resourceId", resource_id},
-                             {"course", CourseOf(resource_id)},
-                             {"number", NumberOf(resource_id)}};
-  ResourceJsonWriter writer(TextCodePage(options.discipline));
-  if (ok && !writer.Fields(*resource, out)) {
-    throw CommandFailure("no JSON form for resources of type " + std::to_string(options.type));
+  const Description out = ok ? DescribeResource(*resource, resource_id, options.discipline)
+                             : DescribeUnreadResource(options.type, resource_id,
+                                                      FailureText(options.root, read.failure()));
+  if (out.is_null()) {
+    throw CommandFailure("no description of resources of type " + std::to_string(options.type));
   }
-  out["media"] = writer.media();
-  if (!ok) out["reason"] = PrintableText(FailureText(options.root, read.failure()));
 
   if (options.json) {
     PrintJson(out);
   } else if (ok) {
     std::printf("resource 0x%08x: type %u, course %u, number %u\n", resource_id, options.type,
                 CourseOf(resource_id), NumberOf(resource_id));
-    nlohmann::ordered_json fields = out;
+    Description fields = out;
     for (const char* head : {"ok", "type", "resourceId", "course", "number", "media"}) {
       fields.erase(head);
     }

@@ -1,8 +1,6 @@
 #include "content_args.h"
 
 #include <lumora/frame/opened_disciplines.h>
-#include <lumora/platform/utf8.h>
-#include <lumora/support/language_table.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -87,12 +85,6 @@ ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {
   return request;
 }
 
-uint32_t TextCodePage(uint32_t id) {
-  OpenedDiscipline discipline;
-  return FindOpenedDiscipline(id, &discipline) ? CodePageOf(static_cast<uint8_t>(discipline.param))
-                                               : kWindowsAnsi;
-}
-
 std::string FailureText(const std::string& root, const LoadFailure& failure) {
   LoadFailure shown = failure;
   const std::string folder = root.empty() || root.back() == '/' ? root : root + "/";
@@ -100,15 +92,6 @@ std::string FailureText(const std::string& root, const LoadFailure& failure) {
     shown.file.erase(0, folder.size());
   }
   return shown.file.empty() ? shown.Details() : shown.ToString();
-}
-
-std::string Utf8(const WideText& text) { return Utf16ToUtf8(text.view()); }
-
-nlohmann::ordered_json MediaJson(const MediaRef& media) {
-  return {{"kind", media.kind},
-          {"folder", media.folder},
-          {"resource", media.resource},
-          {"path", PrintableText(media.path, kWindowsAnsi)}};
 }
 
 }  // namespace lumora::cli

@@ -1,14 +1,12 @@
-// Pieces shared by the commands that open a content root: argument parsing, the open/close
-// pair and the JSON forms of the library's small records.
+// Pieces shared by the commands that open a content root: argument parsing and the open/close
+// pair.
 #pragma once
 
 #include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
 #include <lumora/platform/load_result.h>
-#include <lumora/support/wide_text.h>
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <cstdint>
 #include <functional>
@@ -52,15 +50,8 @@ OpenedDiscipline DisciplineFor(uint32_t id);
 // A request for discipline `id`; throws when no open discipline has that identifier.
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
 
-// The code page of the narrow texts in the resources of open discipline `id`: that of the
-// discipline's language (the low byte of its Param).
-uint32_t TextCodePage(uint32_t id);
-
 // A load failure as the tool prints it: the file relative to the content root when it lies below
 // it, the byte and what was wrong.
 std::string FailureText(const std::string& root, const LoadFailure& failure);
-
-std::string Utf8(const WideText& text);
-nlohmann::ordered_json MediaJson(const MediaRef& media);
 
 }  // namespace lumora::cli

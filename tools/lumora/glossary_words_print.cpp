@@ -1,7 +1,6 @@
 // Word lists by letter section: the text search, the filtered letter search and the letters.
+#include <lumora/describe/glossary_description.h>
 #include <lumora/platform/utf8.h>
-
-#include <nlohmann/json.hpp>
 
 #include <iostream>
 
@@ -13,31 +12,16 @@
 namespace lumora::cli {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 // The letters with words, each with its words in alphabetical order.
 void PrintBuckets(const CGloV6& glossary, const WordBuckets& buckets, bool json) {
-  Json rows = Json::array();
-  for (size_t i = 0; i < buckets.size(); ++i) {
-    if (buckets[i].empty()) continue;
-    const auto letterId = static_cast<uint16_t>(i + 1);
-    GloFNLetterRecord letter;
-    glossary.getLetter(letterId, letter);
-    Json words = Json::array();
-    for (uint16_t fnId : buckets[i]) {
-      words.push_back({{"fnId", fnId}, {"writing", Utf16ToUtf8(glossary.getWritingText(fnId))}});
-    }
-    rows.push_back({{"letterId", letterId},
-                    {"letter", Utf16ToUtf8(letter.letter)},
-                    {"words", std::move(words)}});
-  }
+  const Description rows = DescribeWordBuckets(glossary, buckets);
   if (json) {
     PrintJson(rows);
     return;
   }
-  for (const Json& row : rows) {
+  for (const Description& row : rows) {
     std::cout << row["letter"].get<std::string>() << '\n';
-    for (const Json& word : row["words"]) {
+    for (const Description& word : row["words"]) {
       std::cout << "  " << word["fnId"] << "  " << word["writing"].get<std::string>() << '\n';
     }
   }
@@ -90,14 +74,14 @@ void PrintWordsByLetter(const CGloV6& glossary, const GlossaryOptions& options) 
 }
 
 void PrintLetters(const CGloV6& glossary, const GlossaryOptions& options) {
-  std::vector<GloFNLetterRecord> letters;
-  glossary.getLetters(letters);
-  Json rows = Json::array();
-  for (const GloFNLetterRecord& letter : letters) {
-    rows.push_back({{"letterId", letter.letterId}, {"letter", Utf16ToUtf8(letter.letter)}});
-    if (!options.json) std::cout << letter.letterId << "  " << Utf16ToUtf8(letter.letter) << '\n';
+  const Description rows = DescribeLetters(glossary);
+  if (options.json) {
+    PrintJson(rows);
+    return;
   }
-  if (options.json) PrintJson(rows);
+  for (const Description& letter : rows) {
+    std::cout << letter["letterId"] << "  " << letter["letter"].get<std::string>() << '\n';
+  }
 }
 
 }  // namespace lumora::cli

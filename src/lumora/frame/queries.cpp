@@ -15,7 +15,14 @@ ResourceIndex* ResourceInfos(const ContentRequest* request) {
   return discipline ? discipline->resourceIndex.get() : nullptr;
 }
 
-bool GetMediaPath(const ContentRequest* request, MediaRef& media, std::string* path) {
+std::string PathInfos(const ContentRequest* request) {
+  Discipline* discipline = DisciplineOf(request);
+  return discipline ? discipline->dataFolder : Library().commonLocal;
+}
+
+}  // namespace
+
+bool MediaPathFor(const ContentRequest* request, MediaRef media, std::string* path) {
   Discipline* discipline = DisciplineOf(request);
   if (discipline == nullptr || path == nullptr) return false;
   if (!media.BuildPath(discipline->localRoot, request->pathKind,
@@ -26,12 +33,6 @@ bool GetMediaPath(const ContentRequest* request, MediaRef& media, std::string* p
   return true;
 }
 
-std::string PathInfos(const ContentRequest* request) {
-  Discipline* discipline = DisciplineOf(request);
-  return discipline ? discipline->dataFolder : Library().commonLocal;
-}
-
-}  // namespace
 }  // namespace lumora
 
 lumora::ResourceIndex* lmGetResourceInfos(const lumora::ContentRequest* request) {
@@ -47,7 +48,7 @@ bool lmGetResource(const lumora::ContentRequest* request, uint32_t resourceId,
 
 bool lmGetMediaPath(const lumora::ContentRequest* request, lumora::MediaRef media,
                     std::string* path) {
-  return lumora::Guarded(false, [&] { return lumora::GetMediaPath(request, media, path); });
+  return lumora::Guarded(false, [&] { return lumora::MediaPathFor(request, media, path); });
 }
 
 std::string lmGetPathInfos(const lumora::ContentRequest* request) {

@@ -5,8 +5,10 @@
 #include <lumora/platform/load_result.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/exercise_resource.h>
+#include <lumora/resources/media_ref.h>
 
 #include <cstdint>
+#include <string>
 
 // The library's public surface: exported from the shared library.
 #pragma GCC visibility push(default)
@@ -17,6 +19,9 @@ namespace lumora {
 // a file.
 LoadResult ReadResource(const ContentRequest* request, uint32_t resourceId,
                         ExerciseResource* resource, bool fillMedia);
+
+// lmGetMediaPath's answer: the path of `media` in the request's discipline, written to *path.
+bool MediaPathFor(const ContentRequest* request, MediaRef media, std::string* path);
 
 }  // namespace lumora
 

@@ -9,48 +9,46 @@
 #include <lumora/resources/types/type5.h>
 #include <lumora/resources/types/type9.h>
 
-#include "resource_json_types.h"
+#include <lumora/describe/resource_fields.h>
 
-namespace lumora::cli {
+namespace lumora {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json TextWithMediaJson(ResourceJsonWriter& w, const TextWithMedia& piece) {
+Description TextWithMediaJson(ResourceDescriber& w, const TextWithMedia& piece) {
   return {{"text", w.Text(piece.text)}, {"media", w.Media(piece.media)}};
 }
 
-void Type5Fields(ResourceJsonWriter& w, const Type5Resource& r, Json& out) {
+void Type5Fields(ResourceDescriber& w, const Type5Resource& r, Description& out) {
   out["groupKey"] = r.groupKey;
   out["title"] = w.Text(r.title);
   out["sentences"] = ListJson(r.sentences, [&w](const DictationSentence& sentence) {
-    return Json{{"value", sentence.value},
-                {"texts", w.Texts(sentence.texts)},
-                {"media", w.Media(sentence.media)}};
+    return Description{{"value", sentence.value},
+                       {"texts", w.Texts(sentence.texts)},
+                       {"media", w.Media(sentence.media)}};
   });
 }
 
-void Type9Fields(ResourceJsonWriter& w, const Type9Resource& r, Json& out) {
+void Type9Fields(ResourceDescriber& w, const Type9Resource& r, Description& out) {
   out["groupKey"] = r.groupKey;
   out["words"] = w.Texts(r.words);
   out["strings"] = w.Strings(r.strings);
   out["media"] = w.Media(r.media);
 }
 
-void Type10Fields(ResourceJsonWriter& w, const Type10Resource& r, Json& out) {
+void Type10Fields(ResourceDescriber& w, const Type10Resource& r, Description& out) {
   out["groupKey"] = r.groupKey;
   out["instruction"] = w.Text(r.instruction);
   out["words"] =
       ListJson(r.words, [&w](const TextWithMedia& word) { return TextWithMediaJson(w, word); });
 }
 
-Json Type14EntriesJson(ResourceJsonWriter& w, const ObjectList<Type14Entry>& entries) {
+Description Type14EntriesJson(ResourceDescriber& w, const ObjectList<Type14Entry>& entries) {
   return ListJson(entries, [&w](const Type14Entry& entry) {
-    return Json{{"value", entry.value}, {"text", w.Text(entry.text)}};
+    return Description{{"value", entry.value}, {"text", w.Text(entry.text)}};
   });
 }
 
-void Type14Fields(ResourceJsonWriter& w, const Type14Resource& r, Json& out) {
+void Type14Fields(ResourceDescriber& w, const Type14Resource& r, Description& out) {
   out["value"] = r.value;
   out["firstWord"] = r.firstWord;
   out["secondWord"] = r.secondWord;
@@ -65,15 +63,15 @@ void Type14Fields(ResourceJsonWriter& w, const Type14Resource& r, Json& out) {
   out["closingText"] = w.Text(r.closingText);
 }
 
-void Type20Fields(ResourceJsonWriter& w, const Type20Resource& r, Json& out) {
+void Type20Fields(ResourceDescriber& w, const Type20Resource& r, Description& out) {
   out["value"] = r.value;
   out["groupKey"] = r.groupKey;
   out["pieces"] = ListJson(r.pieces, [&w](const PatchWorkPiece& piece) {
-    return Json{{"media", w.Media(piece.media)}, {"text", w.Text(piece.text)}};
+    return Description{{"media", w.Media(piece.media)}, {"text", w.Text(piece.text)}};
   });
 }
 
-void Type21Fields(ResourceJsonWriter& w, const Type21Resource& r, Json& out) {
+void Type21Fields(ResourceDescriber& w, const Type21Resource& r, Description& out) {
   out["firstValue"] = r.firstValue;
   out["secondValue"] = r.secondValue;
   out["title"] = w.Text(r.title);
@@ -83,16 +81,16 @@ void Type21Fields(ResourceJsonWriter& w, const Type21Resource& r, Json& out) {
       ListJson(r.clues, [&w](const TextWithMedia& clue) { return TextWithMediaJson(w, clue); });
 }
 
-void Type28Fields(ResourceJsonWriter& w, const Type28Resource& r, Json& out) {
+void Type28Fields(ResourceDescriber& w, const Type28Resource& r, Description& out) {
   out["groupKey"] = r.groupKey;
   out["sentences"] = ListJson(r.sentences, [&w](const Type28Sentence& sentence) {
-    return Json{{"texts", w.Texts(sentence.texts)}, {"media", w.Media(sentence.media)}};
+    return Description{{"texts", w.Texts(sentence.texts)}, {"media", w.Media(sentence.media)}};
   });
 }
 
-void Type1006Fields(ResourceJsonWriter& w, const Type1006Resource& r, Json& out) {
+void Type1006Fields(ResourceDescriber& w, const Type1006Resource& r, Description& out) {
   out["media"] = w.Media(r.media);
-  Json entries = Json::array();
+  Description entries = Description::array();
   for (uint32_t i = 0; i < r.entries.size(); ++i) {
     const CaptionedMedia& entry = *r.entries.ObjectAt(i);
     entries.push_back({{"key", r.entries.KeyAt(i)},
@@ -104,9 +102,9 @@ void Type1006Fields(ResourceJsonWriter& w, const Type1006Resource& r, Json& out)
   out["strings"] = w.Strings(r.strings);
 }
 
-void Type1010Fields(ResourceJsonWriter& w, const Type1010Resource& r, Json& out) {
+void Type1010Fields(ResourceDescriber& w, const Type1010Resource& r, Description& out) {
   out["groupKey"] = r.groupKey;
-  Json texts = Json::array();
+  Description texts = Description::array();
   for (const TranslatedText& text : r.texts) {
     texts.push_back({{"text", w.Text(text.text)}, {"translations", w.Texts(text.translations)}});
   }
@@ -115,7 +113,7 @@ void Type1010Fields(ResourceJsonWriter& w, const Type1010Resource& r, Json& out)
   out["moreTexts"] = w.Texts(r.moreTexts);
 }
 
-void Type2000Fields(ResourceJsonWriter& w, const Type2000Resource& r, Json& out) {
+void Type2000Fields(ResourceDescriber& w, const Type2000Resource& r, Description& out) {
   out["description"] = {{"attribute", r.description.attribute},
                         {"titles", w.Texts(r.description.titles)},
                         {"media", w.Media(r.description.media)}};
@@ -123,41 +121,20 @@ void Type2000Fields(ResourceJsonWriter& w, const Type2000Resource& r, Json& out)
 
 }  // namespace
 
-bool MediaTypeFields(ResourceJsonWriter& w, const ExerciseResource& resource, Json& out) {
-  switch (resource.GetType()) {
-    case Type5Resource::kType:
-      Type5Fields(w, static_cast<const Type5Resource&>(resource), out);
-      return true;
-    case Type9Resource::kType:
-      Type9Fields(w, static_cast<const Type9Resource&>(resource), out);
-      return true;
-    case Type10Resource::kType:
-      Type10Fields(w, static_cast<const Type10Resource&>(resource), out);
-      return true;
-    case Type14Resource::kType:
-      Type14Fields(w, static_cast<const Type14Resource&>(resource), out);
-      return true;
-    case Type20Resource::kType:
-      Type20Fields(w, static_cast<const Type20Resource&>(resource), out);
-      return true;
-    case Type21Resource::kType:
-      Type21Fields(w, static_cast<const Type21Resource&>(resource), out);
-      return true;
-    case Type28Resource::kType:
-      Type28Fields(w, static_cast<const Type28Resource&>(resource), out);
-      return true;
-    case Type1006Resource::kType:
-      Type1006Fields(w, static_cast<const Type1006Resource&>(resource), out);
-      return true;
-    case Type1010Resource::kType:
-      Type1010Fields(w, static_cast<const Type1010Resource&>(resource), out);
-      return true;
-    case Type2000Resource::kType:
-      Type2000Fields(w, static_cast<const Type2000Resource&>(resource), out);
-      return true;
-    default:
-      return false;
-  }
+std::span<const TypeFields> MediaTypeFields() {
+  static constexpr TypeFields kRows[] = {
+      {Type5Resource::kType, &FieldsOf<Type5Resource, &Type5Fields>},
+      {Type9Resource::kType, &FieldsOf<Type9Resource, &Type9Fields>},
+      {Type10Resource::kType, &FieldsOf<Type10Resource, &Type10Fields>},
+      {Type14Resource::kType, &FieldsOf<Type14Resource, &Type14Fields>},
+      {Type20Resource::kType, &FieldsOf<Type20Resource, &Type20Fields>},
+      {Type21Resource::kType, &FieldsOf<Type21Resource, &Type21Fields>},
+      {Type28Resource::kType, &FieldsOf<Type28Resource, &Type28Fields>},
+      {Type1006Resource::kType, &FieldsOf<Type1006Resource, &Type1006Fields>},
+      {Type1010Resource::kType, &FieldsOf<Type1010Resource, &Type1010Fields>},
+      {Type2000Resource::kType, &FieldsOf<Type2000Resource, &Type2000Fields>},
+  };
+  return kRows;
 }
 
-}  // namespace lumora::cli
+}  // namespace lumora

@@ -1,0 +1,136 @@
+// The face of the library for programs that read, check, export or write content (the lumora
+// tool, the Python module, the HTTP server, a host's own scripts): open a content root, walk its
+// disciplines and resources, and get every answer as the document that `lumora ... --json`
+// prints, or the reason it could not be given.
+//
+// One content root is open in a process at a time, since the library keeps one registry: while
+// a ContentRoot is open, a second Open fails. Reads (every const member) may run on any number
+// of threads at once; Open and Close wait for the reads under way and keep new ones out until
+// they are done.
+#pragma once
+
+#include <lumora/describe/description.h>
+#include <lumora/lumora.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+enum class StatusCode {
+  kOk,
+  kNotFound,         // no such content root, discipline, word, point or type
+  kUnreadable,       // a file that is there could not be read: `file`, `byte` and `reason` say why
+  kInvalidArgument,  // a value outside its range
+  kBusy,             // another content root is open in this process
+};
+
+// The one result of the face: what went wrong and where, or nothing.
+struct Status {
+  StatusCode code = StatusCode::kOk;
+  std::string reason;
+  std::string file;  // relative to the content root when it lies below it; empty when none
+  std::optional<uint64_t> byte;  // where reading stopped, when known
+
+  bool ok() const { return code == StatusCode::kOk; }
+  // "file: at byte N: reason", leaving out what is not known.
+  std::string ToString() const;
+};
+
+// A document, or why there is none (then `document` may still hold what the tool prints for
+// that failure, as `lumora resource` does for a resource that cannot be read).
+struct Answer {
+  Status status;
+  Description document;
+
+  bool ok() const { return status.ok(); }
+};
+
+struct DisciplineSummary {
+  uint32_t id = 0;
+  uint32_t language = 0;        // the low byte of the section's Param
+  std::vector<uint32_t> types;  // types with an index, in load order
+  std::string localRoot;
+  std::string urlRoot;
+  std::string uncRoot;
+  std::string dataFolder;
+};
+
+struct OpenOptions {
+  uint32_t discipline = 0;  // 0: every discipline of Content.ini
+  bool databases = false;   // connect each discipline to its Content.mdb (packages, export)
+};
+
+struct ResourceOptions {
+  uint32_t pathKind = kPathUrl;  // kPathLocal gives no media paths
+  uint8_t order = 1;             // quality folder order 1, 2 or 3
+  bool media = true;             // resolve the media paths
+};
+
+class ContentRoot {
+ public:
+  // Opens the content root `root` (the folder of Content.ini). Null with the reason when it has
+  // no Content.ini ("no Content.ini in ..."), when no discipline opens, when a database does
+  // not open, or while another ContentRoot is open.
+  static std::unique_ptr<ContentRoot> Open(const std::string& root, const OpenOptions& options,
+                                           Status* status);
+  ~ContentRoot();
+  ContentRoot(const ContentRoot&) = delete;
+  ContentRoot& operator=(const ContentRoot&) = delete;
+
+  // Closes the root; every later call answers as for a discipline that is not open.
+  void Close();
+  bool open() const;
+  const std::string& root() const { return root_; }
+
+  // The open disciplines, in registration order.
+  std::vector<DisciplineSummary> Disciplines() const;
+  std::optional<DisciplineSummary> Discipline(uint32_t id) const;
+  // `lumora open --json`: {"ok", "disciplines": [{"id", "localRoot", ...}]}.
+  Description DescribeOpen() const;
+
+  // The resource ids a type's index lists, in index order; empty for a type without index.
+  std::vector<uint32_t> ResourceIds(uint32_t discipline, uint32_t type) const;
+  // `lumora resource --json`: the resource decoded, its media resolved. On failure the document
+  // is the one the tool prints then (ok false, the reason) and the status says why.
+  Answer Resource(uint32_t discipline, uint32_t type, uint32_t id,
+                  const ResourceOptions& options = {}) const;
+  // The path of a medium as lmGetMediaPath answers it; none when it is not found.
+  std::optional<std::string> MediaPath(uint32_t discipline, const MediaRef& media,
+                                       uint32_t pathKind, uint8_t order) const;
+  // `lumora index --json`: every type's index, or only `type`'s.
+  Answer Index(uint32_t discipline, std::optional<uint32_t> type = std::nullopt) const;
+
+  // `lumora glossary find|word|letters --json`.
+  Answer FindWords(uint32_t discipline, const std::string& text, bool prefix, bool needCode) const;
+  Answer GlossaryWord(uint32_t discipline, uint32_t fnId, uint32_t pathKind = kPathLocal,
+                      uint8_t quality = 1) const;
+  Answer GlossaryLetters(uint32_t discipline) const;
+
+  // `lumora grammar point|find|levels|categories --json`.
+  Answer GrammarPoint(uint32_t discipline, uint32_t point) const;
+  Answer FindGrammarPoints(uint32_t discipline, const std::string& text, uint8_t language) const;
+  Answer GrammarLevels(uint32_t discipline, uint32_t first = 0, uint32_t second = 0) const;
+  Answer GrammarCategories(uint32_t discipline, uint32_t first = 0, uint32_t second = 0) const;
+
+  // `lumora classification --json`.
+  Answer Classification() const;
+  // `lumora packages --json` (the root must be opened with databases).
+  Answer Packages(uint32_t discipline) const;
+
+ private:
+  explicit ContentRoot(std::string root) : root_(std::move(root)) {}
+
+  std::string root_;
+  bool open_ = true;
+};
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
