@@ -7,6 +7,7 @@
 #include <lumora/frame/resource_reading.h>
 #include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/support/listed_files.h>
 
 #include <mutex>
 
@@ -33,7 +34,11 @@ Answer ContentRoot::Resource(uint32_t discipline, uint32_t type, uint32_t id,
   if (!open_ || !request) return Failed(NoDiscipline(discipline));
   const LoadResult read = ReadResource(&*request, id, resource.get(), options.media);
   if (!read.ok()) {
-    const Status status = Unreadable(root_, read.failure());
+    Status status = Unreadable(root_, read.failure());
+    // A resource whose file is not there is absent, not damaged.
+    if (!read.failure().offset && !FileListed(read.failure().file)) {
+      status.code = StatusCode::kNotFound;
+    }
     return {status, DescribeUnreadResource(type, id, status.ToString())};
   }
   return Found(DescribeResource(*resource, id, discipline));
