@@ -9,6 +9,7 @@
 // they are done.
 #pragma once
 
+#include <lumora/check/content_check.h>
 #include <lumora/describe/description.h>
 #include <lumora/lumora.h>
 
@@ -109,8 +110,11 @@ class ContentRoot {
   // `lumora index --json`: every type's index, or only `type`'s.
   Answer Index(uint32_t discipline, std::optional<uint32_t> type = std::nullopt) const;
 
-  // `lumora glossary find|word|letters --json`.
-  Answer FindWords(uint32_t discipline, const std::string& text, bool prefix, bool needCode) const;
+  // `lumora glossary find|word|letters --json`. With `limit`, the find keeps the first `limit`
+  // words in the document's order (the letter sections in turn, the words of each in order)
+  // and leaves out the sections left without words.
+  Answer FindWords(uint32_t discipline, const std::string& text, bool prefix, bool needCode,
+                   std::optional<uint32_t> limit = std::nullopt) const;
   Answer GlossaryWord(uint32_t discipline, uint32_t fnId, uint32_t pathKind = kPathLocal,
                       uint8_t quality = 1) const;
   Answer GlossaryLetters(uint32_t discipline) const;
@@ -126,12 +130,22 @@ class ContentRoot {
   // `lumora packages --json` (the root must be opened with databases).
   Answer Packages(uint32_t discipline) const;
 
+  // `lumora check --json`: every check of the root, over every discipline or only `discipline`
+  // (0: all). Findings are part of the document ("ok" false when one is an error), not a
+  // failure of the answer. Checks run one at a time; other reads go on meanwhile.
+  Answer Check(uint32_t discipline = 0) const;
+
  private:
   explicit ContentRoot(std::string root) : root_(std::move(root)) {}
 
   std::string root_;
   bool open_ = true;
 };
+
+// The document `lumora check --json` prints for the reports of CheckContentRoot: {"ok": no
+// errors, "checks": [{"name", "checked", "errors", "warnings", "findings": [{"severity",
+// "file", "message"}]}]}.
+Description DescribeCheck(const std::vector<CheckReport>& reports);
 
 }  // namespace lumora
 

@@ -1,10 +1,5 @@
 // `lumora serve` as a user runs it: it prints where it serves, serves the media of the content
 // root, and stops with exit code 0 on SIGTERM.
-#include <poll.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -14,37 +9,12 @@
 #include "fixtures/http_client.h"
 #include "fixtures/run_cli.h"
 #include "fixtures/sample_suite.h"
+#include "serve/serve_process.h"
 
 namespace lumora::testing {
 namespace {
 
 class ServeCliTest : public SampleContentSuite {};
-
-// Starts the tool with its standard output on a pipe; gives the process and the pipe.
-pid_t StartServe(const std::string& root, int* out) {
-  int pipe_fds[2];
-  if (::pipe(pipe_fds) != 0) return -1;
-  const pid_t pid = ::fork();
-  if (pid == 0) {
-    ::dup2(pipe_fds[1], STDOUT_FILENO);
-    ::close(pipe_fds[0]);
-    ::close(pipe_fds[1]);
-    ::execl(LUMORA_CLI, LUMORA_CLI, "serve", root.c_str(), "--port", "0", "--quiet", nullptr);
-    ::_exit(127);
-  }
-  ::close(pipe_fds[1]);
-  *out = pipe_fds[0];
-  return pid;
-}
-
-// The first line the tool prints, waiting up to 30 seconds for it.
-std::string FirstLine(int fd) {
-  std::string line;
-  char c;
-  pollfd wait{fd, POLLIN, 0};
-  while (::poll(&wait, 1, 30000) == 1 && ::read(fd, &c, 1) == 1 && c != '\n') line += c;
-  return line;
-}
 
 std::string AMediumBelow(const std::string& folder, std::string* relative) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
@@ -63,26 +33,16 @@ TEST_F(ServeCliTest, PrintsItsAddressServesAMediumAndStopsOnSigterm) {
   std::string relative;
   const std::string medium = AMediumBelow(root() + "D001", &relative);
   ASSERT_FALSE(relative.empty());
-  int out = -1;
-  const pid_t pid = StartServe(root(), &out);
-  ASSERT_GT(pid, 0);
-  const std::string line = FirstLine(out);
+  ServeProcess serve(root());
   const std::string prefix = "serving " + root() + " at http://127.0.0.1:";
-  ASSERT_EQ(line.rfind(prefix, 0), 0u) << line;
-  const std::string base = line.substr(line.find("http://"));
+  ASSERT_EQ(serve.line().rfind(prefix, 0), 0u) << serve.line();
 
-  const HttpReply reply = Fetch(base + "media/d/1/" + relative);
+  const HttpReply reply = Fetch(serve.Url("/media/d/1/" + relative));
   EXPECT_EQ(reply.status, 200);
   EXPECT_EQ(reply.body, medium);
   EXPECT_EQ(reply.Header("content-type"), "application/x-shockwave-flash");
-  EXPECT_EQ(Fetch(base + "api/open").status, 501);
-
-  ::kill(pid, SIGTERM);
-  int status = 0;
-  ASSERT_EQ(::waitpid(pid, &status, 0), pid);
-  EXPECT_TRUE(WIFEXITED(status));
-  EXPECT_EQ(WEXITSTATUS(status), 0);
-  ::close(out);
+  EXPECT_EQ(Fetch(serve.Url("/api/open")).status, 200);
+  EXPECT_EQ(serve.Stop(), 0);
 }
 
 TEST_F(ServeCliTest, RefusesWhatItCannotServe) {

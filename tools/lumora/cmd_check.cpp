@@ -2,8 +2,7 @@
 // [--fix-case]`: the integrity check of a whole content root. Exits with 1 when a check finds
 // an error; warnings alone leave the exit code 0.
 #include <lumora/check/content_check.h>
-
-#include <nlohmann/json.hpp>
+#include <lumora/content.h>
 
 #include <unistd.h>
 
@@ -47,22 +46,6 @@ std::vector<std::string> SplitChecks(const std::string& text) {
 
 const char* SeverityName(Severity severity) {
   return severity == Severity::kError ? "error" : "warning";
-}
-
-nlohmann::ordered_json ReportJson(const CheckReport& report) {
-  nlohmann::ordered_json findings = nlohmann::ordered_json::array();
-  for (const Finding& f : report.findings) {
-    nlohmann::ordered_json finding = {{"severity", SeverityName(f.severity)},
-                                      {"file", PrintableText(f.file)},
-                                      {"message", PrintableText(f.message)}};
-    if (f.count > 1) finding["count"] = f.count;
-    findings.push_back(std::move(finding));
-  }
-  return {{"name", report.name},
-          {"checked", report.checked},
-          {"errors", report.errors()},
-          {"warnings", report.warnings()},
-          {"findings", findings}};
 }
 
 void PrintReports(const std::vector<CheckReport>& reports) {
@@ -110,9 +93,7 @@ void Run(const Options& options) {
   uint64_t errors = 0;
   for (const CheckReport& r : reports) errors += r.errors();
   if (options.json) {
-    nlohmann::ordered_json checks = nlohmann::ordered_json::array();
-    for (const CheckReport& r : reports) checks.push_back(ReportJson(r));
-    PrintJson({{"ok", errors == 0}, {"checks", checks}});
+    PrintJson(DescribeCheck(reports));
   } else {
     PrintReports(reports);
   }

@@ -1,7 +1,7 @@
 // `lumora serve ROOT [--address A] [--port P] [--threads N] [--quiet]`: serves a content root
 // over HTTP, read-only, until SIGINT or SIGTERM.
-#include <lumora/frame/opened_disciplines.h>
-#include <lumora/lumora.h>
+#include <lumora/content.h>
+#include <lumora/describe/printable_text.h>
 
 #include <pthread.h>
 #include <signal.h>
@@ -11,10 +11,11 @@
 #include <memory>
 
 #include "commands.h"
-#include "content_args.h"
+#include "content_documents.h"
 #include "serve/api_routes.h"
 #include "serve/file_routes.h"
 #include "serve/http_server.h"
+#include "serve/media_links.h"
 
 namespace lumora::cli {
 namespace {
@@ -27,33 +28,31 @@ struct Options {
   bool quiet = false;
 };
 
-// The documents of the API are not served yet: every route says so.
-class PendingDocuments : public serve::DocumentSource {
- public:
-  serve::Answer Open() const override { return Pending(); }
-  serve::Answer Index(uint32_t, std::optional<uint32_t>) const override { return Pending(); }
-  serve::Answer Resource(uint32_t, uint32_t, uint32_t) const override { return Pending(); }
-  serve::Answer GlossaryFind(uint32_t, const serve::GlossaryQuery&) const override {
-    return Pending();
-  }
-  serve::Answer GlossaryWord(uint32_t, uint32_t) const override { return Pending(); }
-  serve::Answer GlossaryLetters(uint32_t) const override { return Pending(); }
-  serve::Answer GrammarPoint(uint32_t, uint32_t) const override { return Pending(); }
-  serve::Answer GrammarLevels(uint32_t) const override { return Pending(); }
-  serve::Answer GrammarCategories(uint32_t) const override { return Pending(); }
-  serve::Answer Classification() const override { return Pending(); }
-  serve::Answer Packages(uint32_t) const override { return Pending(); }
-  serve::Answer Check(std::optional<uint32_t>) const override { return Pending(); }
+// Opens the root with its package databases, or without them when they do not open, so that a
+// root without databases still serves everything but its packages.
+std::unique_ptr<ContentRoot> OpenRoot(const std::string& root) {
+  Status status;
+  std::unique_ptr<ContentRoot> content = ContentRoot::Open(root, {0, true}, &status);
+  if (content) return content;
+  content = ContentRoot::Open(root, {0, false}, &status);
+  if (!content) throw CommandFailure(status.ToString());
+  std::fprintf(stderr, "note: the package databases did not open; packages are not served\n");
+  return content;
+}
 
- private:
-  static serve::Answer Pending() {
-    return serve::Answer::Failure(501, "this server does not answer documents yet");
-  }
+struct Roots {
+  std::map<uint32_t, std::string> local;
+  std::map<uint32_t, serve::DisciplineRoots> linked;
 };
 
-std::map<uint32_t, std::string> LocalRoots() {
-  std::map<uint32_t, std::string> roots;
-  for (const OpenedDiscipline& d : ListOpenedDisciplines()) roots.emplace(d.id, d.localRoot);
+Roots RootsOf(const ContentRoot& content) {
+  Roots roots;
+  for (const DisciplineSummary& d : content.Disciplines()) {
+    roots.local.emplace(d.id, d.localRoot);
+    // Media paths in the documents are UTF-8 as the descriptions make them; so is their root.
+    roots.linked.emplace(
+        d.id, serve::DisciplineRoots{PrintableText(d.urlRoot, kWindowsAnsi), d.localRoot});
+  }
   return roots;
 }
 
@@ -74,12 +73,13 @@ sigset_t BlockStopSignals() {
 }
 
 void Run(const Options& options) {
-  OpenedContent content(options.root, 0);
-  if (!content.ok()) throw CommandFailure("no discipline could be opened below " + options.root);
-  PendingDocuments documents;
+  const std::unique_ptr<ContentRoot> content = OpenRoot(options.root);
+  const Roots roots = RootsOf(*content);
+  const serve::MediaLinks links(roots.linked);
+  const ContentDocuments documents(*content, links);
   serve::Router router;
   serve::AddApiRoutes(router, documents);
-  serve::AddMediaRoutes(router, LocalRoots());
+  serve::AddMediaRoutes(router, roots.local);
 
   serve::ServerOptions server_options{options.address, options.port, options.threads, {}};
   if (!options.quiet) {

@@ -26,16 +26,26 @@ Answer FromLexicon(const std::string& root, uint32_t discipline, const Lexicon* 
   return Found(std::move(document));
 }
 
+// Cut before describing, so that a short answer out of a large glossary costs little.
+void KeepFirstWords(WordBuckets& buckets, uint32_t limit) {
+  uint64_t left = limit;
+  for (std::vector<uint16_t>& words : buckets) {
+    if (words.size() > left) words.resize(left);
+    left -= words.size();
+  }
+}
+
 }  // namespace
 
 Answer ContentRoot::FindWords(uint32_t discipline, const std::string& text, bool prefix,
-                              bool needCode) const {
+                              bool needCode, std::optional<uint32_t> limit) const {
   std::shared_lock lock(LibraryMutex());
   return FromLexicon(root_, discipline, open_ ? OpenedGlossary(discipline) : nullptr,
                      GlossaryLoadFailure(discipline), "", [&](const CGloV6& glossary) {
                        WordBuckets buckets;
                        glossary.findWords(buckets, 0, Utf8ToUtf16(text), 0, needCode ? 1 : 0,
                                           prefix);
+                       if (limit) KeepFirstWords(buckets, *limit);
                        return DescribeWordBuckets(glossary, buckets);
                      });
 }

@@ -10,6 +10,7 @@
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/support/listed_files.h>
 
 #include <deque>
 #include <map>
@@ -70,7 +71,11 @@ Answer ContentRoot::Resource(uint32_t discipline, uint32_t type, uint32_t id,
   if (!open_ || !request) return Failed(NoDiscipline(discipline));
   const LoadResult read = ReadResource(&*request, id, resource.get(), options.media);
   if (!read.ok()) {
-    const Status status = Unreadable(root_, read.failure());
+    Status status = Unreadable(root_, read.failure());
+    // A resource whose file is not there is absent, not damaged.
+    if (!read.failure().offset && !FileListed(read.failure().file)) {
+      status.code = StatusCode::kNotFound;
+    }
     return {status, DescribeUnreadResource(type, id, status.ToString())};
   }
   return Found(DescribeResource(*resource, id, discipline));
