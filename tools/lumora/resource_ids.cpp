@@ -33,8 +33,8 @@ std::map<uint32_t, std::vector<uint32_t>> CoursesByNumber(const fs::path& root, 
     const std::optional<uint32_t> c = NumberedName(course.path().filename().string(), 'C', 4);
     if (!c) continue;
     std::error_code inner;
-    for (const fs::directory_entry& file : fs::directory_iterator(course.path() / type_folder,
-                                                                  inner)) {
+    for (const fs::directory_entry& file :
+         fs::directory_iterator(course.path() / type_folder, inner)) {
       const fs::path name = file.path().filename();
       const std::string extension = name.extension().string();
       if (extension != ".ars" && extension != ".arh") continue;

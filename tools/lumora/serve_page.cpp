@@ -55,7 +55,8 @@ serve::Handler IdsHandler(const serve::DocumentSource& documents) {
     if (index.status != 200) return serve::ErrorResponse(index.status, index.error);
     nlohmann::ordered_json ids = nlohmann::ordered_json::array();
     for (const auto& t : index.document["types"]) {
-      for (uint32_t i : IndexedResourceIds(root->second, *type, IndexedNumbers(t))) ids.push_back(i);
+      for (uint32_t i : IndexedResourceIds(root->second, *type, IndexedNumbers(t)))
+        ids.push_back(i);
     }
     return serve::JsonResponse(200, {{"ids", std::move(ids)}});
   };
