@@ -70,14 +70,14 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
     await page.waitForURL(/\/d\/1\/type\/5$/);
     await page.getByRole("link", { name: "0x00100002" }).click();
     await page.waitForURL(/\/d\/1\/resource\/5\/1048578$/);
-    assert.equal(await page.locator("h1").textContent(), "Resource 0x00100002");
+    await page.locator("h1", { hasText: "Resource 0x00100002" }).waitFor();
 
     await page.goBack();
     await page.waitForURL(/\/d\/1\/type\/5$/);
-    assert.match(await page.locator("h1").textContent(), /Dictation/);
+    await page.locator("h1", { hasText: "Dictation" }).waitFor();
     // An address typed or linked to directly is the same view.
     await page.goto(new URL("/d/1/grammar/2", server.baseUrl).href);
-    assert.equal(await page.locator("h1").textContent(), "Present tense");
+    await page.locator("h1", { hasText: "Present tense" }).waitFor();
     assert.deepEqual(errors, []);
   });
 
@@ -94,7 +94,7 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
     assert.notEqual(outline, "none");
     await page.keyboard.press("Enter");
     await page.waitForURL(/\/d\/1$/);
-    assert.equal(await page.locator("h1").textContent(), "Discipline 1");
+    await page.locator("h1", { hasText: "Discipline 1" }).waitFor();
     assert.deepEqual(errors, []);
   });
 
