@@ -16,6 +16,7 @@
 #include "serve/file_routes.h"
 #include "serve/http_server.h"
 #include "serve/media_links.h"
+#include "serve_page.h"
 
 namespace lumora::cli {
 namespace {
@@ -80,6 +81,7 @@ void Run(const Options& options) {
   serve::Router router;
   serve::AddApiRoutes(router, documents);
   serve::AddMediaRoutes(router, roots.local);
+  AddPage(router, *content);
 
   serve::ServerOptions server_options{options.address, options.port, options.threads, {}};
   if (!options.quiet) {

@@ -5,9 +5,13 @@
 namespace lumora::serve {
 namespace {
 
+// The page's Flash player (Ruffle 0.6.0, pinned by web/package-lock.json) sets two inline styles
+// of its own; they are allowed by their hashes, so no other inline style applies.
 constexpr std::string_view kHtmlPolicy =
-    "default-src 'self'; script-src 'self' 'wasm-unsafe-eval'; object-src 'none'; "
-    "base-uri 'self'; form-action 'none'; frame-ancestors 'self'";
+    "default-src 'self'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self' 'unsafe-hashes' "
+    "'sha256-ZIjaRjeEPeLGAC12l3LyXix5OaO8O47vn20DODh/FcE=' "
+    "'sha256-47DEQpj8HBSa+/TImW+5JCeuQeRkm5NMpJWZG3hSuFU='; object-src 'none'; base-uri 'self'; "
+    "form-action 'none'; frame-ancestors 'self'";
 
 bool SameName(std::string_view a, std::string_view b) {
   return a.size() == b.size() && ::strncasecmp(a.data(), b.data(), a.size()) == 0;
