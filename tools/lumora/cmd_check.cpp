@@ -3,15 +3,13 @@
 // an error; warnings alone leave the exit code 0.
 #include <lumora/check/content_check.h>
 
-#include <nlohmann/json.hpp>
-
 #include <unistd.h>
 
-#include <cstdio>
 #include <memory>
 #include <optional>
 #include <sstream>
 
+#include "check_print.h"
 #include "check_progress.h"
 #include "commands.h"
 #include "content_args.h"
@@ -45,48 +43,6 @@ std::vector<std::string> SplitChecks(const std::string& text) {
   return names;
 }
 
-const char* SeverityName(Severity severity) {
-  return severity == Severity::kError ? "error" : "warning";
-}
-
-nlohmann::ordered_json ReportJson(const CheckReport& report) {
-  nlohmann::ordered_json findings = nlohmann::ordered_json::array();
-  for (const Finding& f : report.findings) {
-    nlohmann::ordered_json finding = {{"severity", SeverityName(f.severity)},
-                                      {"file", PrintableText(f.file)},
-                                      {"message", PrintableText(f.message)}};
-    if (f.count > 1) finding["count"] = f.count;
-    findings.push_back(std::move(finding));
-  }
-  return {{"name", report.name},
-          {"checked", report.checked},
-          {"errors", report.errors()},
-          {"warnings", report.warnings()},
-          {"findings", findings}};
-}
-
-void PrintReports(const std::vector<CheckReport>& reports) {
-  for (const CheckReport& r : reports) {
-    std::printf("%-15s %8llu checked  %5llu errors  %5llu warnings\n", r.name.c_str(),
-                static_cast<unsigned long long>(r.checked),
-                static_cast<unsigned long long>(r.errors()),
-                static_cast<unsigned long long>(r.warnings()));
-  }
-  for (const CheckReport& r : reports) {
-    if (r.findings.empty()) continue;
-    std::printf("\n%s:\n", r.name.c_str());
-    for (const ShownFinding& shown : FindingsToShow(r.findings)) {
-      const Finding& f = *shown.finding;
-      std::printf("  %-7s %s: %s\n", SeverityName(f.severity), PrintableText(f.file).c_str(),
-                  PrintableText(f.message).c_str());
-      if (shown.moreLikeThis > 0) {
-        std::printf("          and %llu more like this\n",
-                    static_cast<unsigned long long>(shown.moreLikeThis));
-      }
-    }
-  }
-}
-
 void Run(const Options& options) {
   CheckOptions check;
   check.disciplineFilter = options.discipline;
@@ -110,11 +66,9 @@ void Run(const Options& options) {
   uint64_t errors = 0;
   for (const CheckReport& r : reports) errors += r.errors();
   if (options.json) {
-    nlohmann::ordered_json checks = nlohmann::ordered_json::array();
-    for (const CheckReport& r : reports) checks.push_back(ReportJson(r));
-    PrintJson({{"ok", errors == 0}, {"checks", checks}});
+    PrintJson({{"ok", errors == 0}, {"checks", CheckReportsJson(reports)}});
   } else {
-    PrintReports(reports);
+    PrintCheckReports(reports);
   }
   if (errors > 0) {
     throw CommandFailure(std::to_string(errors) + (errors == 1 ? " error" : " errors") + " found");

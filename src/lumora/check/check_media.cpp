@@ -13,9 +13,11 @@ namespace {
 constexpr uint32_t kReportCodePage = 1252;
 
 // A line of the resource's report as a finding says it: without its leading tabs, in UTF-8
-// (the resources report in code page 1252), paths relative to the root.
+// (the resources report in code page 1252), paths relative to the root. Type 40 ends its line
+// about a missing linked file with a break and then "!": that "!" closes the line before, so it
+// is dropped where it opens one.
 std::string FindingText(const CheckedRoot& root, const std::string& line) {
-  const size_t first = line.find_first_not_of("\t ");
+  const size_t first = line.find_first_not_of(line.starts_with('!') ? "!\t " : "\t ");
   if (first == std::string::npos) return std::string();
   std::string text = Utf16ToUtf8(DecodeCodePage(line.substr(first), kReportCodePage));
   for (size_t at = text.find(root.root); at != std::string::npos && !root.root.empty();
@@ -45,7 +47,7 @@ void CheckMedia(const CheckedRoot& root, CheckReport& report) {
       std::string line;
       while (std::getline(lines, line)) {
         const std::string finding = FindingText(root, line);
-        if (!finding.empty() && finding != "!") report.Error(file, finding);
+        if (!finding.empty()) report.Error(file, finding);
       }
     }
   }
