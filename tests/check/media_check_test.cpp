@@ -45,6 +45,19 @@ TEST_F(MediaCheck, FindsExactlyThePlantedProblems) {
             "File not found: D001/C0002/r0001005/Q2/p0000008.swf!");
 }
 
+// Asked about some files, the checks of files one by one look at those only.
+TEST_F(MediaCheck, OnlyTheResourceFilesAskedForAreLookedAt) {
+  CheckOptions options;
+  options.checks = {"resources", "media"};
+  options.onlyResourceFiles = {"D001/C0001/r0001006/r0000003.ars"};
+  const std::vector<CheckReport> reports = CheckContentRoot(root(), options);
+  ASSERT_EQ(reports.size(), 2u);
+  EXPECT_EQ(reports[0].checked, 1u);
+  EXPECT_EQ(reports[1].checked, 1u);
+  ASSERT_EQ(reports[1].findings.size(), 1u);
+  EXPECT_EQ(reports[1].findings[0].file, options.onlyResourceFiles[0]);
+}
+
 // Exercises whose linked elements are gone: one sentence per missing file, whatever the order of
 // the lines the resource reports them in.
 TEST_F(MediaCheck, AMissingLinkedElementIsOneSentence) {

@@ -13,6 +13,7 @@ namespace lumora::cli {
 namespace {
 
 constexpr const char* kMediaCheck = "media";
+constexpr const char* kResourcesCheck = "resources";
 
 using FindingKey = std::tuple<std::string, std::string, std::string>;
 
@@ -32,6 +33,12 @@ std::string WithoutFolder(std::string text, const std::string& folder) {
     text.erase(at, folder.size());
   }
   return text;
+}
+
+// The source's file of a file the export check names.
+std::string InSource(const std::string& file, const std::string& exportFolder,
+                     const std::string& sourceFolder) {
+  return file.starts_with(exportFolder) ? sourceFolder + file.substr(exportFolder.size()) : file;
 }
 
 FindingKey KeyOf(const std::string& check, const Finding& f, const std::string& folder) {
@@ -139,12 +146,20 @@ void MarkInherited(ExportChecks& checks, const ExportCheckInput& input,
   CheckOptions options;
   options.disciplineFilter = input.discipline;
   options.qualityFolders = input.qualityFolders;
-  // Warnings alone do not make an export damaged: they are weighed only beside errors.
+  const std::string sourceFolder = AsChecksWrite(input.sourceRoot, input.sourceLocalRoot);
+  // Warnings alone do not make an export damaged: they are weighed only beside errors. The
+  // checks of resource files one by one look in the source only at the files with errors.
   for (const CheckReport& r : checks.reports) {
-    if (r.errors() > 0) options.checks.push_back(r.name);
+    if (r.errors() == 0) continue;
+    options.checks.push_back(r.name);
+    if (r.name != kMediaCheck && r.name != kResourcesCheck) continue;
+    for (const Finding& f : r.findings) {
+      if (f.severity == Severity::kError) {
+        options.onlyResourceFiles.push_back(InSource(f.file, exportFolder, sourceFolder));
+      }
+    }
   }
   if (options.checks.empty()) return;
-  const std::string sourceFolder = AsChecksWrite(input.sourceRoot, input.sourceLocalRoot);
   std::set<FindingKey> inSource;
   for (const CheckReport& r : CheckContentRoot(input.sourceRoot, options)) {
     for (const Finding& f : r.findings) inSource.insert(KeyOf(r.name, f, sourceFolder));

@@ -32,9 +32,10 @@ std::string FindingText(const CheckedRoot& root, const std::string& line) {
 void CheckMedia(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     if (!d.discipline->resourceIndex) continue;
-    for (const MediaVerification& v :
-         VerifyIndexedMedia(d.discipline->localRoot, *d.discipline->resourceIndex,
-                            root.qualityFolders(), std::nullopt, [&root] { root.StepsDone(1); })) {
+    for (const MediaVerification& v : VerifyIndexedMedia(
+             d.discipline->localRoot, *d.discipline->resourceIndex, root.qualityFolders(),
+             std::nullopt, [&root] { root.StepsDone(1); },
+             [&root](const std::string& path) { return root.ChecksResourceFile(path); })) {
       ++report.checked;
       const std::string file = root.Relative(v.path);
       if (!v.read) {
