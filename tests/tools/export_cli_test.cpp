@@ -134,7 +134,8 @@ TEST_F(CheckedExportCli, AMediumTheExportFailedToCopyFailsTheCommand) {
   const CliResult result = ExportRow(9, 0x100001, "blocked", "");
   EXPECT_EQ(result.exit_code, 1);
   EXPECT_EQ(result.out.find("(with problems)"), std::string::npos) << result.out;
-  EXPECT_NE(result.out.find("error   D001/C0001/r0000009/r0000001.ars: Media not found"),
+  EXPECT_NE(result.out.find("error   D001/C0001/r0000009/r0000001.ars: File not found : "
+                            "D001/C0001/r0000009/Q1/p0000001.swf"),
             std::string::npos)
       << result.out;
   EXPECT_NE(result.err.find("found 1 error that the source does not have"), std::string::npos)
