@@ -124,6 +124,28 @@ TEST_F(PublishTest, ClearPathsWritesArhFilesThatTheOpenedTreeReads) {
   EXPECT_EQ(element.media.resource, 9u);
 }
 
+// An element expanded by the pass takes every field of the stored element, its reference too:
+// the published file's links are what the stored elements name, which the verification of the
+// published file then looks for. A stored element naming itself keeps the link; one naming
+// nothing (0) leaves a link to resource 0, which no tree holds and no package lists.
+TEST_F(PublishTest, APublishedLinkNamesWhatTheStoredElementNames) {
+  WriteIni("[001]\nDiscipline=7\n");
+  for (const uint32_t named : {kStoredElement, 0u}) {
+    SCOPED_TRACE(named);
+    WriteDiscipline(d7(), root(), 7);
+    auto stored = testing::FullElement(u"Stored", 9);
+    stored->reference = named;
+    testing::WriteResource(d7(), kStoredElement, *stored);
+
+    PublishResources(40, root(), true);
+    Type40Resource published;
+    ASSERT_TRUE(LoadArchiveFile(Derived(d7(), 123, "arh"), false, published));
+    const ContentElement& element = published.items[0].firstParts[0].elements[0];
+    EXPECT_FALSE(element.isReference);
+    EXPECT_EQ(element.reference, named);
+  }
+}
+
 TEST_F(PublishTest, KeptPathsWriteAroFilesOnly) {
   WriteIni("[001]\nDiscipline=7\n");
   WriteDiscipline(d7(), root(), 7);

@@ -110,13 +110,32 @@ TEST_F(CheckedExportCli, MediaTheExportLeavesBehindAreOneWarningPerTypeUnlessCop
   EXPECT_FALSE(json::parse(unchecked.out).contains("checks"));
 }
 
+// An exercise whose package lists none of the elements it links to: the export carries none of
+// them, which is its rule and not damage, said once for the type and counted.
+TEST_F(CheckedExportCli, LinksToElementsNoPackageListsAreOneWarningPerType) {
+  const CliResult result = ExportRow(40, 0x100001, "linked");
+  ASSERT_EQ(result.exit_code, 0) << result.out << result.err;
+  const json media = Findings(json::parse(result.out), "media");
+  ASSERT_EQ(media.size(), 1u) << media;
+  EXPECT_EQ(media[0]["severity"], "warning");
+  EXPECT_GT(media[0]["count"].get<int>(), 1);
+  const std::string message = media[0]["message"];
+  EXPECT_TRUE(message.starts_with("type 40: ")) << message;
+  EXPECT_NE(message.find("of 1 resource name type-1005 resources"), std::string::npos) << message;
+
+  const CliResult text = ExportRow(40, 0x100001, "linked-text", "");
+  EXPECT_EQ(text.exit_code, 0) << text.out << text.err;
+  EXPECT_NE(text.out.find("warning D001/: type 40: "), std::string::npos) << text.out;
+}
+
 TEST_F(CheckedExportCli, AMediumTheExportFailedToCopyFailsTheCommand) {
   // A folder where a picture goes: the library's copy fails, and the library does not say so.
   fs::create_directories(out.path() + "blocked/D001/C0001/r0000009/Q1/p0000001.swf");
   const CliResult result = ExportRow(9, 0x100001, "blocked", "");
   EXPECT_EQ(result.exit_code, 1);
   EXPECT_EQ(result.out.find("(with problems)"), std::string::npos) << result.out;
-  EXPECT_NE(result.out.find("error   D001/C0001/r0000009/r0000001.ars: Media not found"),
+  EXPECT_NE(result.out.find("error   D001/C0001/r0000009/r0000001.ars: File not found : "
+                            "D001/C0001/r0000009/Q1/p0000001.swf"),
             std::string::npos)
       << result.out;
   EXPECT_NE(result.err.find("found 1 error that the source does not have"), std::string::npos)

@@ -6,11 +6,11 @@
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <memory>
 #include <optional>
 #include <sstream>
 
+#include "check_print.h"
 #include "check_progress.h"
 #include "commands.h"
 #include "content_args.h"
@@ -44,32 +44,6 @@ std::vector<std::string> SplitChecks(const std::string& text) {
   return names;
 }
 
-const char* SeverityName(Severity severity) {
-  return severity == Severity::kError ? "error" : "warning";
-}
-
-void PrintReports(const std::vector<CheckReport>& reports) {
-  for (const CheckReport& r : reports) {
-    std::printf("%-15s %8llu checked  %5llu errors  %5llu warnings\n", r.name.c_str(),
-                static_cast<unsigned long long>(r.checked),
-                static_cast<unsigned long long>(r.errors()),
-                static_cast<unsigned long long>(r.warnings()));
-  }
-  for (const CheckReport& r : reports) {
-    if (r.findings.empty()) continue;
-    std::printf("\n%s:\n", r.name.c_str());
-    for (const ShownFinding& shown : FindingsToShow(r.findings)) {
-      const Finding& f = *shown.finding;
-      std::printf("  %-7s %s: %s\n", SeverityName(f.severity), PrintableText(f.file).c_str(),
-                  PrintableText(f.message).c_str());
-      if (shown.moreLikeThis > 0) {
-        std::printf("          and %llu more like this\n",
-                    static_cast<unsigned long long>(shown.moreLikeThis));
-      }
-    }
-  }
-}
-
 void Run(const Options& options) {
   CheckOptions check;
   check.disciplineFilter = options.discipline;
@@ -95,7 +69,7 @@ void Run(const Options& options) {
   if (options.json) {
     PrintJson(DescribeCheck(reports));
   } else {
-    PrintReports(reports);
+    PrintCheckReports(reports);
   }
   if (errors > 0) {
     throw CommandFailure(std::to_string(errors) + (errors == 1 ? " error" : " errors") + " found");

@@ -26,11 +26,11 @@
 #include <sstream>
 #include <vector>
 
+#include "check_print.h"
 #include "check_progress.h"
 #include "commands.h"
 #include "content_args.h"
 #include "export_check.h"
-#include "export_check_print.h"
 #include "export_lists.h"
 #include "export_progress.h"
 #include "printable_text.h"
@@ -188,7 +188,8 @@ Exported RunExport(const Options& options, const std::optional<CustomLists>& lis
   return exported;
 }
 
-std::vector<ExportCheckReport> RunChecks(const Options& options, ExportCheckInput input) {
+// The check of the export, with the check's progress bar: it moves per file the checks read.
+ExportChecks RunChecks(const Options& options, ExportCheckInput input) {
   std::optional<CheckProgressBar> bar;
   const Progress progress(
       [&](uint32_t maximum) {
@@ -202,12 +203,6 @@ std::vector<ExportCheckReport> RunChecks(const Options& options, ExportCheckInpu
     input.progress = &progress;
   }
   return CheckExport(input);
-}
-
-uint64_t DamageOf(const std::vector<ExportCheckReport>& reports) {
-  uint64_t damage = 0;
-  for (const ExportCheckReport& r : reports) damage += r.damage();
-  return damage;
 }
 
 nlohmann::ordered_json CopyJson(const UncopiedMediaCopy& copy) {
@@ -234,13 +229,13 @@ void Run(const Options& options) {
   std::optional<UncopiedMediaCopy> copy;
   if (options.allMedia) copy = CopyUncopiedMedia(sourceLocalRoot, exportFolder, quality);
   const WrittenFiles::Count count = written.Since();
-  std::optional<std::vector<ExportCheckReport>> checks;
+  std::optional<ExportChecks> checks;
   if (!options.noCheck) {
     checks = RunChecks(options, {options.root, sourceLocalRoot, options.destination, exportFolder,
                                  options.discipline, quality, options.allMedia});
   }
   const bool copied = !copy || copy->problems.empty();
-  const uint64_t damage = checks ? DamageOf(*checks) : 0;
+  const uint64_t damage = checks ? checks->damage() : 0;
   if (options.json) {
     nlohmann::ordered_json summary = {{"ok", exported.ok && copied && damage == 0},
                                       {"exportFolder", PrintableText(exportFolder)},
@@ -249,7 +244,7 @@ void Run(const Options& options) {
                                       {"filesCopied", count.files},
                                       {"bytesCopied", count.bytes}};
     if (copy) summary["allMedia"] = CopyJson(*copy);
-    if (checks) summary["checks"] = ExportChecksJson(*checks);
+    if (checks) summary["checks"] = CheckReportsJson(checks->reports, checks->inherited);
     PrintJson(summary);
   } else {
     for (const std::string& line : exported.report) std::printf("%s\n", line.c_str());
@@ -268,7 +263,7 @@ void Run(const Options& options) {
     }
     if (checks) {
       std::printf("\n");
-      PrintExportChecks(*checks);
+      PrintCheckReports(checks->reports, checks->inherited);
     }
   }
   if (!exported.ok) throw CommandFailure("the export reported problems");

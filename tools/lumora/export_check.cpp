@@ -2,7 +2,6 @@
 
 #include <lumora/support/paths.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <set>
@@ -14,6 +13,7 @@ namespace lumora::cli {
 namespace {
 
 constexpr const char* kMediaCheck = "media";
+constexpr const char* kResourcesCheck = "resources";
 
 using FindingKey = std::tuple<std::string, std::string, std::string>;
 
@@ -33,6 +33,12 @@ std::string WithoutFolder(std::string text, const std::string& folder) {
     text.erase(at, folder.size());
   }
   return text;
+}
+
+// The source's file of a file the export check names.
+std::string InSource(const std::string& file, const std::string& exportFolder,
+                     const std::string& sourceFolder) {
+  return file.starts_with(exportFolder) ? sourceFolder + file.substr(exportFolder.size()) : file;
 }
 
 FindingKey KeyOf(const std::string& check, const Finding& f, const std::string& folder) {
@@ -56,92 +62,126 @@ bool NamesMissingMedium(const std::string& message) {
   return message.starts_with("No video found") || message.starts_with("No picture found");
 }
 
-struct Uncopied {
+// A media finding that names a type-1005 resource file, linked from the resource and missing.
+bool NamesMissingElement(const std::string& message) {
+  static const std::string kMissing = "File not found: ";
+  return message.starts_with(kMissing) && message.ends_with(".ars") &&
+         message.find("/r0001005/r", kMissing.size()) != std::string::npos;
+}
+
+// What the export leaves out by its own rule, by the exercise type of the resources concerned.
+struct LeftOut {
   uint64_t findings = 0;
   std::set<std::string> resources;
 };
 
-ExportFinding UncopiedWarning(const std::string& exportFolder, uint32_t type,
-                              const Uncopied& uncopied) {
-  const std::string text =
-      "type " + std::to_string(type) + ": the export copies no media of this type, so " +
-      std::to_string(uncopied.findings) + " media of " + std::to_string(uncopied.resources.size()) +
-      (uncopied.resources.size() == 1 ? " resource are" : " resources are") +
-      " missing (--all-media copies them)";
-  return {{Severity::kWarning, exportFolder, text}, false, uncopied.findings};
+std::string Resources(size_t count) {
+  return std::to_string(count) + (count == 1 ? " resource" : " resources");
 }
 
-std::vector<ExportCheckReport> Annotated(const std::vector<CheckReport>& reports) {
-  std::vector<ExportCheckReport> annotated;
-  for (const CheckReport& r : reports) {
-    ExportCheckReport a{r.name, r.checked, {}};
-    for (const Finding& f : r.findings) a.findings.push_back({f});
-    annotated.push_back(std::move(a));
-  }
-  return annotated;
+Finding UncopiedMediaWarning(const std::string& exportFolder, uint32_t type, const LeftOut& left) {
+  return {Severity::kWarning, exportFolder,
+          "type " + std::to_string(type) + ": the export copies no media of this type, so " +
+              std::to_string(left.findings) + " media of " + Resources(left.resources.size()) +
+              " are missing (--all-media copies them)",
+          left.findings};
 }
 
-// Takes the missing media of the types the export copies no media of out of the media report,
-// and puts one warning per type in their place.
-void SummarizeUncopiedMedia(ExportCheckReport& media, const std::string& exportFolder) {
-  std::map<uint32_t, Uncopied> uncopied;
-  std::vector<ExportFinding> kept;
-  for (ExportFinding& f : media.findings) {
-    const uint32_t type = TypeOfResourceFile(WithoutFolder(f.finding.file, exportFolder));
-    if (IsUncopiedMediaType(type) && NamesMissingMedium(f.finding.message)) {
-      ++uncopied[type].findings;
-      uncopied[type].resources.insert(f.finding.file);
-    } else {
-      kept.push_back(std::move(f));
+Finding UnlistedElementsWarning(const std::string& exportFolder, uint32_t type,
+                                const LeftOut& left) {
+  return {Severity::kWarning, exportFolder,
+          "type " + std::to_string(type) + ": " + std::to_string(left.findings) +
+              (left.findings == 1 ? " link" : " links") + " of " +
+              Resources(left.resources.size()) +
+              " name type-1005 resources that the export does not carry (it copies only the "
+              "resources its packages list)",
+          left.findings};
+}
+
+// Takes out of the media report what the export leaves out by its own rule (the missing media of
+// the types it copies no media of, unless they were copied after it, and the links to elements
+// no exported package lists) and puts one warning per kind and type in their place.
+void SummarizeLeftOut(CheckReport& media, const std::string& exportFolder, bool allMedia) {
+  std::map<uint32_t, LeftOut> uncopied;
+  std::map<uint32_t, LeftOut> unlisted;
+  std::vector<Finding> kept;
+  for (Finding& f : media.findings) {
+    const uint32_t type = TypeOfResourceFile(WithoutFolder(f.file, exportFolder));
+    std::map<uint32_t, LeftOut>* left = nullptr;
+    if (NamesMissingElement(f.message)) {
+      left = &unlisted;
+    } else if (!allMedia && IsUncopiedMediaType(type) && NamesMissingMedium(f.message)) {
+      left = &uncopied;
     }
+    if (left == nullptr) {
+      kept.push_back(std::move(f));
+      continue;
+    }
+    ++(*left)[type].findings;
+    (*left)[type].resources.insert(f.file);
   }
-  for (const auto& [type, u] : uncopied) kept.push_back(UncopiedWarning(exportFolder, type, u));
+  for (const auto& [type, left] : uncopied) {
+    kept.push_back(UncopiedMediaWarning(exportFolder, type, left));
+  }
+  for (const auto& [type, left] : unlisted) {
+    kept.push_back(UnlistedElementsWarning(exportFolder, type, left));
+  }
   media.findings = std::move(kept);
 }
 
+uint64_t Damage(const CheckReport& report, const std::vector<bool>& inherited) {
+  uint64_t damage = 0;
+  for (size_t i = 0; i < report.findings.size(); ++i) {
+    damage += report.findings[i].severity == Severity::kError && !inherited[i];
+  }
+  return damage;
+}
+
 // Marks the findings that the same checks have on the source.
-void MarkInherited(std::vector<ExportCheckReport>& reports, const ExportCheckInput& input,
+void MarkInherited(ExportChecks& checks, const ExportCheckInput& input,
                    const std::string& exportFolder) {
+  for (const CheckReport& r : checks.reports) {
+    checks.inherited.emplace_back(r.findings.size(), false);
+  }
   CheckOptions options;
   options.disciplineFilter = input.discipline;
   options.qualityFolders = input.qualityFolders;
-  // Warnings alone do not make an export damaged: they are weighed only beside errors.
-  for (const ExportCheckReport& r : reports) {
-    if (r.damage() > 0) options.checks.push_back(r.name);
+  const std::string sourceFolder = AsChecksWrite(input.sourceRoot, input.sourceLocalRoot);
+  // Warnings alone do not make an export damaged: they are weighed only beside errors. The
+  // checks of resource files one by one look in the source only at the files with errors.
+  for (const CheckReport& r : checks.reports) {
+    if (r.errors() == 0) continue;
+    options.checks.push_back(r.name);
+    if (r.name != kMediaCheck && r.name != kResourcesCheck) continue;
+    for (const Finding& f : r.findings) {
+      if (f.severity == Severity::kError) {
+        options.onlyResourceFiles.push_back(InSource(f.file, exportFolder, sourceFolder));
+      }
+    }
   }
   if (options.checks.empty()) return;
-  const std::string sourceFolder = AsChecksWrite(input.sourceRoot, input.sourceLocalRoot);
   std::set<FindingKey> inSource;
   for (const CheckReport& r : CheckContentRoot(input.sourceRoot, options)) {
     for (const Finding& f : r.findings) inSource.insert(KeyOf(r.name, f, sourceFolder));
   }
-  for (ExportCheckReport& r : reports) {
-    for (ExportFinding& f : r.findings) {
-      f.inherited = f.count == 1 && inSource.count(KeyOf(r.name, f.finding, exportFolder)) > 0;
+  for (size_t report = 0; report < checks.reports.size(); ++report) {
+    const CheckReport& r = checks.reports[report];
+    for (size_t i = 0; i < r.findings.size(); ++i) {
+      const Finding& f = r.findings[i];
+      checks.inherited[report][i] =
+          f.count == 1 && inSource.count(KeyOf(r.name, f, exportFolder)) > 0;
     }
   }
 }
 
-uint64_t CountIf(const ExportCheckReport& r, bool (*test)(const ExportFinding&)) {
-  return static_cast<uint64_t>(std::count_if(r.findings.begin(), r.findings.end(), test));
-}
-
 }  // namespace
 
-uint64_t ExportCheckReport::errors() const {
-  return CountIf(*this,
-                 [](const ExportFinding& f) { return f.finding.severity == Severity::kError; });
-}
-
-uint64_t ExportCheckReport::warnings() const {
-  return CountIf(*this,
-                 [](const ExportFinding& f) { return f.finding.severity == Severity::kWarning; });
-}
-
-uint64_t ExportCheckReport::damage() const {
-  return CountIf(*this, [](const ExportFinding& f) {
-    return f.finding.severity == Severity::kError && !f.inherited;
-  });
+uint64_t ExportChecks::damage() const {
+  uint64_t damage = 0;
+  for (size_t report = 0; report < reports.size(); ++report) {
+    damage += Damage(reports[report], inherited[report]);
+  }
+  return damage;
 }
 
 const std::vector<std::string>& ExportCheckNames() {
@@ -152,21 +192,19 @@ const std::vector<std::string>& ExportCheckNames() {
   return names;
 }
 
-std::vector<ExportCheckReport> CheckExport(const ExportCheckInput& input) {
+ExportChecks CheckExport(const ExportCheckInput& input) {
   CheckOptions options;
   options.disciplineFilter = input.discipline;
   options.checks = ExportCheckNames();
   options.qualityFolders = input.qualityFolders;
   options.progress = input.progress;
-  std::vector<ExportCheckReport> reports = Annotated(CheckContentRoot(input.destination, options));
+  ExportChecks checks{CheckContentRoot(input.destination, options), {}};
   const std::string exportFolder = AsChecksWrite(input.destination, input.exportFolder);
-  if (!input.allMedia) {
-    for (ExportCheckReport& r : reports) {
-      if (r.name == kMediaCheck) SummarizeUncopiedMedia(r, exportFolder);
-    }
+  for (CheckReport& r : checks.reports) {
+    if (r.name == kMediaCheck) SummarizeLeftOut(r, exportFolder, input.allMedia);
   }
-  MarkInherited(reports, input, exportFolder);
-  return reports;
+  MarkInherited(checks, input, exportFolder);
+  return checks;
 }
 
 }  // namespace lumora::cli

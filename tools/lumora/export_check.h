@@ -3,10 +3,12 @@
 // it only carried over.
 //
 // Findings that the same checks have on the source for the same file (paths taken relative to
-// the discipline's folder on both sides) are inherited. The media that the export copies for no
-// resource of types 19, 21, 28 and 1003 are missing from every export: their findings become one
-// warning per type. The source is checked only when the export has findings left to weigh, and
-// only by the checks that found them.
+// the discipline's folder on both sides) are inherited. Two kinds of finding are the export's
+// own way and become one warning per exercise type, with their count: the media it copies for
+// no resource of types 19, 21, 28 and 1003, and the type-1005 resources that exported resources
+// link to but no exported package lists (the export copies exactly the listed resources). The
+// source is checked only when the export has errors left to weigh, only by the checks that found
+// them.
 #pragma once
 
 #include <lumora/check/content_check.h>
@@ -16,21 +18,14 @@
 #include <string>
 #include <vector>
 
+#include "check_print.h"
+
 namespace lumora::cli {
 
-struct ExportFinding {
-  Finding finding;
-  bool inherited = false;  // the source has it too
-  uint64_t count = 1;      // the findings of the check that this one stands for
-};
+struct ExportChecks {
+  std::vector<CheckReport> reports;
+  InheritedFindings inherited;  // one mark per finding of each report
 
-struct ExportCheckReport {
-  std::string name;
-  uint64_t checked = 0;
-  std::vector<ExportFinding> findings;
-
-  uint64_t errors() const;
-  uint64_t warnings() const;
   // Errors the source does not have: the export damaged something.
   uint64_t damage() const;
 };
@@ -49,6 +44,6 @@ struct ExportCheckInput {
 // The checks that an export is checked by, in the order they run.
 const std::vector<std::string>& ExportCheckNames();
 
-std::vector<ExportCheckReport> CheckExport(const ExportCheckInput& input);
+ExportChecks CheckExport(const ExportCheckInput& input);
 
 }  // namespace lumora::cli

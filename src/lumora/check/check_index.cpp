@@ -9,6 +9,7 @@
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/type40.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
@@ -34,9 +35,14 @@ void CompareWithRebuild(const CheckedRoot& root, const Discipline& discipline, u
                         const std::string& stored_path, const std::string& scratch,
                         CheckReport& report) {
   if (!BuildTypeIndex(type, discipline.localRoot, scratch)) {
+    // The type-40 rebuild also fails on a link to an element its type-1005 index lacks, which
+    // an export that leaves the elements behind always has.
+    const std::string why = type == Type40Resource::kType
+                                ? " resource files do not read or link to type-1005 resources "
+                                  "that are not indexed (see the resources and media checks)"
+                                : " resource files do not read (see the resources check)";
     report.Warning(root.Relative(stored_path),
-                   "could not be compared with a rebuild: some " + TypeName(type) +
-                       " resource files do not read (see the resources check)");
+                   "could not be compared with a rebuild: some " + TypeName(type) + why);
     return;
   }
   std::string stored;

@@ -13,9 +13,11 @@ namespace {
 constexpr uint32_t kReportCodePage = 1252;
 
 // A line of the resource's report as a finding says it: without its leading tabs, in UTF-8
-// (the resources report in code page 1252), paths relative to the root.
+// (the resources report in code page 1252), paths relative to the root. Type 40 ends its line
+// about a missing linked file with a break and then "!": that "!" closes the line before, so it
+// is dropped where it opens one.
 std::string FindingText(const CheckedRoot& root, const std::string& line) {
-  const size_t first = line.find_first_not_of("\t ");
+  const size_t first = line.find_first_not_of(line.starts_with('!') ? "!\t " : "\t ");
   if (first == std::string::npos) return std::string();
   std::string text = Utf16ToUtf8(DecodeCodePage(line.substr(first), kReportCodePage));
   for (size_t at = text.find(root.root); at != std::string::npos && !root.root.empty();
@@ -30,9 +32,10 @@ std::string FindingText(const CheckedRoot& root, const std::string& line) {
 void CheckMedia(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     if (!d.discipline->resourceIndex) continue;
-    for (const MediaVerification& v :
-         VerifyIndexedMedia(d.discipline->localRoot, *d.discipline->resourceIndex,
-                            root.qualityFolders(), std::nullopt, [&root] { root.StepsDone(1); })) {
+    for (const MediaVerification& v : VerifyIndexedMedia(
+             d.discipline->localRoot, *d.discipline->resourceIndex, root.qualityFolders(),
+             std::nullopt, [&root] { root.StepsDone(1); },
+             [&root](const std::string& path) { return root.ChecksResourceFile(path); })) {
       ++report.checked;
       const std::string file = root.Relative(v.path);
       if (!v.read) {
@@ -45,7 +48,7 @@ void CheckMedia(const CheckedRoot& root, CheckReport& report) {
       std::string line;
       while (std::getline(lines, line)) {
         const std::string finding = FindingText(root, line);
-        if (!finding.empty() && finding != "!") report.Error(file, finding);
+        if (!finding.empty()) report.Error(file, finding);
       }
     }
   }

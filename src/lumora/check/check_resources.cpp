@@ -82,7 +82,7 @@ void CheckResources(const CheckedRoot& root, CheckReport& report) {
   for (const CheckedDiscipline& d : root.disciplines) {
     for (uint32_t type : kExerciseTypes) {
       for (ScannedResource& file : ScanResourceFiles(d.discipline->localRoot, type, {true})) {
-        items.push_back({type, std::move(file)});
+        if (root.ChecksResourceFile(file.path)) items.push_back({type, std::move(file)});
       }
     }
   }

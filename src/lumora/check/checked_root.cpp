@@ -9,6 +9,7 @@ namespace lumora {
 CheckedRoot::CheckedRoot(const std::string& content_root, const CheckOptions& options)
     : options(options), root(NormalizedRoot(content_root)), iniPath(ContentIniPath(root)) {
   quality_ = options.qualityFolders;
+  onlyResourceFiles_.insert(options.onlyResourceFiles.begin(), options.onlyResourceFiles.end());
   if (quality_.size() == 0) {
     for (uint8_t folder = 1; folder <= 3; ++folder) quality_.Add(folder);
   }
@@ -49,6 +50,10 @@ void CheckedRoot::StepsDone(uint64_t steps) const {
   // The counts a check expects are estimates: the bar never runs past its end.
   done_ = steps >= expected_ - done_ ? expected_ : done_ + steps;
   options.progress->SetPosition(static_cast<uint32_t>(std::min<uint64_t>(done_, UINT32_MAX)));
+}
+
+bool CheckedRoot::ChecksResourceFile(const std::string& path) const {
+  return onlyResourceFiles_.empty() || onlyResourceFiles_.count(Relative(path)) > 0;
 }
 
 std::string CheckedRoot::Relative(const std::string& path) const {

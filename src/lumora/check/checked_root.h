@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,8 @@ class CheckedRoot {
   std::string Relative(const std::string& path) const;
   // The quality folders to check: those of the options, or 1, 2 and 3.
   const ByteArray& qualityFolders() const { return quality_; }
+  // Whether the checks of resource files one by one look at the file at `path`.
+  bool ChecksResourceFile(const std::string& path) const;
 
   // The progress of the whole run counts files read: `steps` are expected in all.
   void SetProgressRange(uint64_t steps);
@@ -58,6 +61,7 @@ class CheckedRoot {
 
  private:
   ByteArray quality_;
+  std::set<std::string> onlyResourceFiles_;
   mutable std::mutex progress_lock_;
   uint64_t expected_ = 0;
   mutable uint64_t done_ = 0;

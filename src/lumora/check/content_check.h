@@ -43,6 +43,9 @@ struct CheckOptions {
   std::vector<std::string> checks;  // empty: every check, in CheckNames() order
   ByteArray qualityFolders;         // media quality folders 1..3; empty: all three
   bool fixCase = false;             // rename names whose only difference is their case
+  // When not empty, the checks of resource files one by one (resources, media) look only at
+  // these files, named as findings name them: relative to the content root.
+  std::vector<std::string> onlyResourceFiles;
   const Progress* progress = nullptr;
 };
 

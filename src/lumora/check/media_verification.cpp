@@ -45,11 +45,10 @@ MediaVerification Verify(const std::string& local_root, const ByteArray& quality
 
 }  // namespace
 
-std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
-                                                  const ResourceIndex& index,
-                                                  const ByteArray& qualityFolders,
-                                                  std::optional<uint32_t> onlyType,
-                                                  const std::function<void()>& verified) {
+std::vector<MediaVerification> VerifyIndexedMedia(
+    const std::string& localRoot, const ResourceIndex& index, const ByteArray& qualityFolders,
+    std::optional<uint32_t> onlyType, const std::function<void()>& verified,
+    const std::function<bool(const std::string& path)>& wanted) {
   // Nothing changes in the tree meanwhile: each folder is listed once for every medium and
   // file looked up in it.
   const ListedFiles listed;
@@ -64,7 +63,9 @@ std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
     std::vector<std::pair<uint32_t, uint32_t>> found;  // number, resource identifier
     const std::map<uint32_t, std::string> files = FilesByResource(localRoot, type);
     for (const auto& [id, path] : files) {
-      if (numbers.count(NumberOf(id)) != 0) found.emplace_back(NumberOf(id), id);
+      if (numbers.count(NumberOf(id)) != 0 && (!wanted || wanted(path))) {
+        found.emplace_back(NumberOf(id), id);
+      }
     }
     std::sort(found.begin(), found.end());
     for (const auto& [number, id] : found) {

@@ -30,12 +30,12 @@ struct MediaVerification {
 // Every resource of every type of `index` (only `onlyType` when given) whose file lies in a
 // course folder below local_root, read and verified against the media of `qualityFolders`.
 // In type order, then resource number order, then course order. `verified`, when given, is
-// called after each resource, so that a caller can show the work move.
-std::vector<MediaVerification> VerifyIndexedMedia(const std::string& localRoot,
-                                                  const ResourceIndex& index,
-                                                  const ByteArray& qualityFolders,
-                                                  std::optional<uint32_t> onlyType,
-                                                  const std::function<void()>& verified = {});
+// called after each resource, so that a caller can show the work move; `wanted`, when given,
+// chooses the resource files to verify by their path.
+std::vector<MediaVerification> VerifyIndexedMedia(
+    const std::string& localRoot, const ResourceIndex& index, const ByteArray& qualityFolders,
+    std::optional<uint32_t> onlyType, const std::function<void()>& verified = {},
+    const std::function<bool(const std::string& path)>& wanted = {});
 
 }  // namespace lumora
 

@@ -1,0 +1,77 @@
+#include "check_print.h"
+
+#include <cstdio>
+
+#include "printable_text.h"
+
+namespace lumora::cli {
+namespace {
+
+const char* SeverityName(Severity severity) {
+  return severity == Severity::kError ? "error" : "warning";
+}
+
+// Whether finding `f` of report `report` is marked as the source's too.
+bool IsInherited(const InheritedFindings& inherited, size_t report,
+                 const std::vector<Finding>& findings, const Finding* f) {
+  if (report >= inherited.size()) return false;
+  const size_t at = static_cast<size_t>(f - findings.data());
+  return at < inherited[report].size() && inherited[report][at];
+}
+
+nlohmann::ordered_json ReportJson(const CheckReport& report, const std::vector<bool>* inherited) {
+  nlohmann::ordered_json findings = nlohmann::ordered_json::array();
+  for (size_t i = 0; i < report.findings.size(); ++i) {
+    const Finding& f = report.findings[i];
+    nlohmann::ordered_json finding = {{"severity", SeverityName(f.severity)},
+                                      {"file", PrintableText(f.file)},
+                                      {"message", PrintableText(f.message)}};
+    if (inherited) finding["inherited"] = i < inherited->size() && (*inherited)[i];
+    if (f.count > 1) finding["count"] = f.count;
+    findings.push_back(std::move(finding));
+  }
+  return {{"name", report.name},
+          {"checked", report.checked},
+          {"errors", report.errors()},
+          {"warnings", report.warnings()},
+          {"findings", findings}};
+}
+
+}  // namespace
+
+void PrintCheckReports(const std::vector<CheckReport>& reports,
+                       const InheritedFindings& inherited) {
+  for (const CheckReport& r : reports) {
+    std::printf("%-15s %8llu checked  %5llu errors  %5llu warnings\n", r.name.c_str(),
+                static_cast<unsigned long long>(r.checked),
+                static_cast<unsigned long long>(r.errors()),
+                static_cast<unsigned long long>(r.warnings()));
+  }
+  for (size_t report = 0; report < reports.size(); ++report) {
+    const CheckReport& r = reports[report];
+    if (r.findings.empty()) continue;
+    std::printf("\n%s:\n", r.name.c_str());
+    for (const ShownFinding& shown : FindingsToShow(r.findings)) {
+      const Finding& f = *shown.finding;
+      std::printf("  %-7s %s: %s%s\n", SeverityName(f.severity), PrintableText(f.file).c_str(),
+                  PrintableText(f.message).c_str(),
+                  IsInherited(inherited, report, r.findings, &f) ? " (the source has it too)" : "");
+      if (shown.moreLikeThis > 0) {
+        std::printf("          and %llu more like this\n",
+                    static_cast<unsigned long long>(shown.moreLikeThis));
+      }
+    }
+  }
+}
+
+nlohmann::ordered_json CheckReportsJson(const std::vector<CheckReport>& reports,
+                                        const InheritedFindings& inherited) {
+  nlohmann::ordered_json checks = nlohmann::ordered_json::array();
+  for (size_t report = 0; report < reports.size(); ++report) {
+    checks.push_back(
+        ReportJson(reports[report], inherited.empty() ? nullptr : &inherited.at(report)));
+  }
+  return checks;
+}
+
+}  // namespace lumora::cli
