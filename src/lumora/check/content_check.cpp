@@ -96,6 +96,7 @@ std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
     for (size_t i = 0; i < chosen.size(); ++i) {
       if (chosen[i]->lane != lane) continue;
       reports[i].name = chosen[i]->name;
+      if (progress.StopRequested()) continue;
       chosen[i]->run(root, reports[i]);
       const std::lock_guard<std::mutex> guard(progress_lock);
       progress.SetPosition(++done);

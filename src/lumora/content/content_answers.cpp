@@ -5,12 +5,14 @@
 
 namespace lumora {
 
-Status NotFound(std::string reason) {
+Status Failure(StatusCode code, std::string reason) {
   Status status;
-  status.code = StatusCode::kNotFound;
+  status.code = code;
   status.reason = std::move(reason);
   return status;
 }
+
+Status NotFound(std::string reason) { return Failure(StatusCode::kNotFound, std::move(reason)); }
 
 Status Unreadable(const std::string& root, const LoadFailure& failure) {
   Status status;

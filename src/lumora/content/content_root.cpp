@@ -14,13 +14,6 @@ namespace {
 // Whether a ContentRoot is open; guarded by the library lock.
 bool root_open = false;
 
-Status Failure(StatusCode code, std::string reason) {
-  Status status;
-  status.code = code;
-  status.reason = std::move(reason);
-  return status;
-}
-
 std::vector<uint32_t> IndexedTypes(uint32_t id) {
   std::vector<uint32_t> types;
   const std::optional<ContentRequest> request = RequestFor(id);

@@ -4,6 +4,7 @@
 #include <lumora/describe/index_description.h>
 #include <lumora/describe/resource_description.h>
 #include <lumora/frame/library_lock.h>
+#include <lumora/frame/opened_disciplines.h>
 #include <lumora/frame/resource_reading.h>
 #include <lumora/resources/indexed_numbers.h>
 #include <lumora/resources/type_catalog.h>
@@ -19,8 +20,10 @@ std::vector<uint32_t> ContentRoot::ResourceIds(uint32_t discipline, uint32_t typ
   const ResourceIndex* index = lmGetResourceInfos(&*request);
   const TypeIndex* typeIndex = index != nullptr ? index->FindType(type) : nullptr;
   if (typeIndex == nullptr) return {};
-  std::optional<IndexedNumbers> numbers = NumbersOf(*typeIndex);
-  return numbers ? std::move(numbers->numbers) : std::vector<uint32_t>();
+  const std::optional<IndexedNumbers> numbers = NumbersOf(*typeIndex);
+  OpenedDiscipline opened;
+  if (!numbers || !FindOpenedDiscipline(discipline, &opened)) return {};
+  return IdsOfNumbers(opened.localRoot, type, numbers->numbers);
 }
 
 Answer ContentRoot::Resource(uint32_t discipline, uint32_t type, uint32_t id,

@@ -86,6 +86,11 @@ bool ExportPackageContent(std::unique_ptr<DatabaseConnection> database, const Ex
   bar.SetRange(n + 16);
   ExportResourceCopier copier(source.localRoot, exportFolder, qualityFolders, report);
   for (uint32_t i = 0; i < n; ++i) {
+    if (bar.StopRequested()) {
+      copier.Finish();
+      report += "The export was stopped before its end.\n";
+      return false;
+    }
     const PackageResourceRecord& row = *lists.packageResources.ObjectAt(i);
     const size_t said = report.size();
     if (!rows.AddPackageResource(lists.packageResources.KeyAt(i), row.idResource, row.idItem)) {
