@@ -81,8 +81,8 @@ struct ResourceOptions {
 using ProgressFunction = std::function<bool(uint64_t done, uint64_t total)>;
 
 struct CheckRequest {
-  uint32_t discipline = 0;          // 0: every discipline of Content.ini
-  std::vector<std::string> checks;  // empty: every check, in the order they run
+  uint32_t discipline = 0;                   // 0: every discipline of Content.ini
+  std::vector<std::string> checks;           // empty: every check, in the order they run
   std::vector<uint8_t> quality = {1, 2, 3};  // media quality folders, each 1, 2 or 3
   bool fixCase = false;  // rename names whose only difference from the expected one is case
 };

@@ -41,7 +41,8 @@ Status ExportedContentIni(const std::string& root, uint32_t discipline, std::str
   for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
     if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
     *text = "[001]\r\n";
-    for (const char* key : kCopiedKeys) *text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
+    for (const char* key : kCopiedKeys)
+      *text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
     return Status();
   }
   return NotFound(root + ": Content.ini has no section for discipline " +

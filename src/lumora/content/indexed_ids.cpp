@@ -45,8 +45,7 @@ std::vector<uint32_t> IdsOfNumbers(const std::string& localRoot, uint32_t type,
   std::snprintf(folder, sizeof folder, "r%07u", type);
   std::error_code error;
   std::map<int, fs::path> found;
-  for (fs::directory_iterator it(localRoot, error), end; !error && it != end;
-       it.increment(error)) {
+  for (fs::directory_iterator it(localRoot, error), end; !error && it != end; it.increment(error)) {
     const int course = CourseOf(it->path().filename().string());
     if (course >= 0 && course <= 0xFFF) found.emplace(course, it->path() / folder);
   }
