@@ -81,9 +81,9 @@ struct ResourceOptions {
 using ProgressFunction = std::function<bool(uint64_t done, uint64_t total)>;
 
 struct CheckRequest {
-  uint32_t discipline = 0;                   // 0: every discipline of Content.ini
-  std::vector<std::string> checks;           // empty: every check, in the order they run
-  std::vector<uint8_t> quality = {1, 2, 3};  // media quality folders, each 1, 2 or 3
+  uint32_t discipline = 0;          // 0: every discipline of Content.ini
+  std::vector<std::string> checks;  // empty: every check, in the order they run
+  std::vector<uint8_t> quality;     // media quality folders 1 to 3; empty: all three
   bool fixCase = false;  // rename names whose only difference from the expected one is case
 };
 
@@ -95,9 +95,9 @@ Answer CheckContent(const std::string& root, const CheckRequest& request,
                     const ProgressFunction& progress = {});
 
 struct ExportRequest {
-  std::vector<uint32_t> packages;            // from the discipline's database
-  std::vector<uint8_t> quality = {1, 2, 3};  // media quality folders, each 1, 2 or 3
-  std::string destination;                   // a content root of its own once written
+  std::vector<uint32_t> packages;  // from the discipline's database
+  std::vector<uint8_t> quality;    // media quality folders 1 to 3; empty: all three
+  std::string destination;         // a content root of its own once written
 };
 
 // Writes the sample content root into `dir` with `scale` units per discipline (1 to

@@ -42,8 +42,6 @@ Status Validate(const std::string& root, const CheckRequest& request) {
                      "quality folders are 1, 2 or 3: " + std::to_string(folder));
     }
   }
-  if (request.quality.empty())
-    return Failure(StatusCode::kInvalidArgument, "no quality folder given");
   std::error_code error;
   if (!std::filesystem::is_regular_file(std::filesystem::path(root) / "Content.ini", error)) {
     return NotFound("no Content.ini in " + root);

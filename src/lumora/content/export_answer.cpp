@@ -135,8 +135,6 @@ std::vector<std::string> ReportLines(const std::string& report) {
 
 Status Validate(const ExportRequest& request) {
   if (request.packages.empty()) return Failure(StatusCode::kInvalidArgument, "no package given");
-  if (request.quality.empty())
-    return Failure(StatusCode::kInvalidArgument, "no quality folder given");
   for (uint8_t folder : request.quality) {
     if (folder < 1 || folder > 3) {
       return Failure(StatusCode::kInvalidArgument,
@@ -165,6 +163,9 @@ Answer ContentRoot::Export(uint32_t discipline, const ExportRequest& request,
   for (uint32_t id : request.packages) packages.Add(id);
   ByteArray quality;
   for (uint8_t folder : request.quality) quality.Add(folder);
+  if (request.quality.empty()) {
+    for (uint8_t folder = 1; folder <= 3; ++folder) quality.Add(folder);
+  }
   const HostProgress host(progress);
   std::string report;
   const bool ok = lmExportPackage(discipline, packages, quality, request.destination.c_str(),
