@@ -1,7 +1,7 @@
 // `lumora serve ROOT [--address A] [--port P] [--threads N] [--quiet]`: serves a content root
 // over HTTP, read-only, until SIGINT or SIGTERM.
-#include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <pthread.h>
 #include <signal.h>
@@ -53,7 +53,7 @@ class PendingDocuments : public serve::DocumentSource {
 
 std::map<uint32_t, std::string> LocalRoots() {
   std::map<uint32_t, std::string> roots;
-  for (const OpenedDiscipline& d : ListOpenedDisciplines()) roots.emplace(d.id, d.localRoot);
+  for (const DisciplineSummary& d : OpenedDisciplines()) roots.emplace(d.id, d.localRoot);
   return roots;
 }
 

@@ -7,8 +7,7 @@
 // date); "dataType" defaults to 0; a text is UTF-8 and gets the code page of its language.
 #pragma once
 
-#include <lumora/packages/package_records.h>
-#include <lumora/platform/typed_array.h>
+#include <lumora/lumora.h>
 
 #include <string>
 
