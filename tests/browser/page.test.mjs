@@ -38,7 +38,7 @@ async function findResource(baseUrl, wanted) {
   for (const type of (await get("/api/open")).disciplines[0].types) {
     for (const id of (await get(`/page/ids/1/${type}`)).ids ?? []) {
       const resource = await get(`/api/d/1/resource/${type}/${id}`);
-      const medium = (resource.media ?? []).find(wanted);
+      const medium = (resource.allMedia ?? []).find(wanted);
       if (medium) return { path: `/d/1/resource/${type}/${id}`, medium };
     }
   }
@@ -127,7 +127,8 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
 
   test("a video is offered as a download with its size, a missing medium says so", TIMEOUT,
     async () => {
-      const video = await findResource(server.baseUrl, (m) => m.kind === 3 && m.href);
+      const video = await findResource(server.baseUrl,
+        (m) => m.kind === 3 && /\.(avi|mpg)$/.test(m.href ?? ""));
       const { page, errors } = await browser.open(server.baseUrl, video.path);
       const download = page.locator("figure.medium a[download]").first();
       assert.match(await download.getAttribute("href"), /\.(avi|mpg)$/);

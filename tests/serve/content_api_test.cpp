@@ -47,7 +47,9 @@ class ContentApiTest : public SampleContentSuite {
     Status status;
     auto content = ContentRoot::Open(root(), {1, false}, &status);
     ASSERT_TRUE(content) << status.ToString();
-    for (uint32_t type : content->Discipline(1)->types) {
+    const std::optional<DisciplineSummary> discipline = content->Discipline(1);
+    ASSERT_TRUE(discipline);
+    for (uint32_t type : discipline->types) {
       const std::vector<uint32_t> ids = content->ResourceIds(1, type);
       if (!ids.empty()) first_ids_.emplace_back(type, ids.front());
     }
@@ -165,16 +167,17 @@ TEST_F(ContentApiTest, MediaWithAFileGainItsAddress) {
   // and without an address; the others are served byte for byte at theirs.
   const std::string path = "/api/d/1/resource/5/" + std::to_string(FirstId(5));
   Json document = Json::parse(Get(path).body);
-  ASSERT_GE(document["media"].size(), 2u) << document.dump();
+  ASSERT_GE(document["allMedia"].size(), 2u) << document.dump();
   const std::string url_root = "http://content.lumora.test/course/D001/";
-  const std::string taken = document["media"][0]["path"].get<std::string>().substr(url_root.size());
+  const std::string taken =
+      document["allMedia"][0]["path"].get<std::string>().substr(url_root.size());
   const std::string kept_bytes = FileBytes(root() + "D001/" + taken);
   std::filesystem::rename(root() + "D001/" + taken, root() + "taken-away");
   document = Json::parse(Get(path).body);
   std::filesystem::rename(root() + "taken-away", root() + "D001/" + taken);
 
   size_t linked = 0;
-  for (const Json& medium : document["media"]) {
+  for (const Json& medium : document["allMedia"]) {
     SCOPED_TRACE(medium.dump());
     const std::string medium_path = medium["path"];
     if (medium_path.empty() || medium_path.find(taken) != std::string::npos) {

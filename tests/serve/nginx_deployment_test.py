@@ -32,7 +32,7 @@ def resource_through(d, failures):
     if not document.get("ok"):
         failures.append(f"{path}: {status} {body[:200]!r}")
         return
-    hrefs = [m["href"] for m in document["media"] if "href" in m]
+    hrefs = [m["href"] for m in document["allMedia"] if "href" in m]
     if not hrefs:
         failures.append(f"{path}: no medium has an href")
     for href in hrefs:

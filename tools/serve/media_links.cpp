@@ -24,8 +24,10 @@ void MediaLinks::Walk(uint32_t discipline, const Roots& roots,
   }
   if (!value.is_object()) return;
   for (auto& [key, field] : value.items()) {
-    if (key == "media" && field.is_object()) Link(discipline, roots, field);
-    if (key == "media" && field.is_array()) {
+    // "media" fields of the resource's own, and "allMedia", every medium gathered from it.
+    const bool media = key == "media" || key == "allMedia";
+    if (media && field.is_object()) Link(discipline, roots, field);
+    if (media && field.is_array()) {
       for (auto& medium : field) {
         if (medium.is_object()) Link(discipline, roots, medium);
       }

@@ -74,7 +74,8 @@ function wordItem(d, word, now, signal, features) {
     if (asked) return;
     asked = true;
     api.word(d, word.fnId, signal).then(
-      (w) => more.replaceChildren(...details(w, features)),
+      // A search typed further cancels the request: it answers nothing then.
+      (w) => w && more.replaceChildren(...details(w, features)),
       (error) => error.name !== "AbortError" && more.replaceChildren(problem(error.message)));
   };
   button.addEventListener("click", () => {

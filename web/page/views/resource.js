@@ -5,8 +5,8 @@ import { el, hex, link, problem } from "../dom.js";
 import { typeName } from "../types.js";
 import { mediumView } from "./media.js";
 
-// Fields of the head, shown in the subtitle; `media` repeats every medium shown in place.
-const HEAD = new Set(["ok", "type", "resourceId", "course", "number", "records", "media"]);
+// Fields of the head, shown in the subtitle; `allMedia` repeats every medium shown in place.
+const HEAD = new Set(["ok", "type", "resourceId", "course", "number", "records", "allMedia"]);
 // The marks of a text, which say nothing to a reader.
 const HIDDEN = new Set(["records16", "records24"]);
 const ELEMENT_TYPE = 1005;
