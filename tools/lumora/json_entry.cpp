@@ -45,7 +45,8 @@ JsonEntry::JsonEntry(const nlohmann::json& entry, std::string where,
     return;
   }
   object_ = &entry;
-  for (const auto& [name, value] : entry.items()) {
+  for (const auto& item : entry.items()) {
+    const std::string& name = item.key();
     const bool known = std::any_of(members.begin(), members.end(),
                                    [&](const char* member) { return name == member; });
     if (known) continue;
