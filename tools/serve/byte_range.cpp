@@ -42,11 +42,11 @@ RangeAnswer ResolveRange(std::string_view header, uint64_t size) {
       ::strncasecmp(header.data(), kUnit.data(), kUnit.size()) != 0) {
     return {};
   }
-  const std::string_view spec = Trim(header.substr(kUnit.size()));
-  const size_t dash = spec.find('-');
-  if (spec.find(',') != std::string_view::npos || dash == std::string_view::npos) return {};
-  const std::string_view first_text = Trim(spec.substr(0, dash));
-  const std::string_view last_text = Trim(spec.substr(dash + 1));
+  const std::string_view ranges = Trim(header.substr(kUnit.size()));
+  const size_t dash = ranges.find('-');
+  if (ranges.find(',') != std::string_view::npos || dash == std::string_view::npos) return {};
+  const std::string_view first_text = Trim(ranges.substr(0, dash));
+  const std::string_view last_text = Trim(ranges.substr(dash + 1));
   if (first_text.empty()) {
     const std::optional<uint64_t> suffix = Position(last_text);
     if (!suffix) return {};
