@@ -1,8 +1,8 @@
 // `lumora check ROOT [-d ID] [--checks LIST] [--quality 1,2,3] [--json] [--progress]
 // [--fix-case]`: the integrity check of a whole content root. Exits with 1 when a check finds
 // an error; warnings alone leave the exit code 0.
-#include <lumora/check/content_check.h>
 #include <lumora/content.h>
+#include <lumora/maintenance.h>
 
 #include <unistd.h>
 

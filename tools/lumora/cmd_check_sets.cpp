@@ -2,7 +2,7 @@
 // folder and, for the tables the library reads, whether the file decodes record by record, so
 // that a damaged or hand-edited table is found before a load silently skips it. Exits with 1
 // when any file is bad, has a version its family refuses or does not decode.
-#include <lumora/lexicon/set_file_check.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -20,40 +20,39 @@ struct Options {
   bool json = false;
 };
 
-const char* ChecksumName(SetChecksum checksum) {
+const char* ChecksumName(SetFileChecksum checksum) {
   switch (checksum) {
-    case SetChecksum::kGood:
+    case SetFileChecksum::kGood:
       return "good";
-    case SetChecksum::kUnlisted:
+    case SetFileChecksum::kUnlisted:
       return "unlisted";
-    case SetChecksum::kBad:
+    case SetFileChecksum::kBad:
       break;
   }
   return "bad";
 }
 
 // A file too short for its header has neither version nor count: null in JSON.
-nlohmann::ordered_json CheckJson(const SetFileCheck& check) {
+nlohmann::ordered_json CheckJson(const SetFileReport& check) {
   nlohmann::ordered_json json = {{"table", PrintableText(check.table, kWindowsAnsi)}};
   json["version"] = check.hasHeader ? nlohmann::ordered_json(check.version) : nullptr;
   json["records"] = check.hasHeader ? nlohmann::ordered_json(check.records) : nullptr;
   json["checksum"] = ChecksumName(check.checksum);
   json["versionAccepted"] = check.versionAccepted;
   // Null for a table whose layout the library does not know.
-  json["decoded"] = check.decode ? nlohmann::ordered_json(check.decode->result.ok()) : nullptr;
-  json["reason"] = check.decode && !check.decode->result.ok()
-                       ? nlohmann::ordered_json(check.decode->result.failure().Details())
-                       : nullptr;
+  json["decoded"] = check.decoded ? nlohmann::ordered_json(*check.decoded) : nullptr;
+  json["reason"] =
+      check.decoded && !*check.decoded ? nlohmann::ordered_json(check.reason) : nullptr;
   return json;
 }
 
-void PrintReason(const SetFileCheck& check) {
-  if (check.decode && !check.decode->result.ok()) {
-    std::printf("    does not load: %s\n", check.decode->result.failure().Details().c_str());
+void PrintReason(const SetFileReport& check) {
+  if (check.decoded && !*check.decoded) {
+    std::printf("    does not load: %s\n", check.reason.c_str());
   }
 }
 
-void PrintLine(const SetFileCheck& check) {
+void PrintLine(const SetFileReport& check) {
   if (!check.hasHeader) {
     std::printf("%-32s too short for a header  checksum %s\n", check.table.c_str(),
                 ChecksumName(check.checksum));
@@ -66,12 +65,12 @@ void PrintLine(const SetFileCheck& check) {
 }
 
 void Run(const Options& options) {
-  const auto checks = CheckSetFolder(options.folder);
+  const auto checks = CheckSetFiles(options.folder);
   if (!checks) throw CommandFailure("cannot list folder " + options.folder);
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   size_t bad = 0;
-  for (const SetFileCheck& check : *checks) {
-    if (check.IsBad()) ++bad;
+  for (const SetFileReport& check : *checks) {
+    if (check.bad) ++bad;
     if (options.json) {
       list.push_back(CheckJson(check));
     } else {

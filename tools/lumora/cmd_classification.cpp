@@ -1,8 +1,8 @@
 // `lumora classification ROOT [--json]`: the five classification tables that opening ROOT
 // loads, the grammatical categories with the label each interface language gets.
-#include <lumora/describe/classification_description.h>
-#include <lumora/frame/load_failures.h>
+#include <lumora/descriptions.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <cstdio>
 #include <memory>

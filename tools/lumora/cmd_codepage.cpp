@@ -4,8 +4,7 @@
 // in blocks; zero bytes are data. What cannot be converted is replaced (undecodable bytes by
 // U+FFFD, ill-formed UTF-8 and characters the code page lacks by "?"), and the command then
 // says how many on stderr and exits with 1.
-#include <lumora/platform/codepage.h>
-#include <lumora/platform/codepage_stream.h>
+#include <lumora/maintenance.h>
 
 #include <cstdio>
 #include <exception>
@@ -20,7 +19,7 @@ namespace {
 
 constexpr size_t kBlockBytes = 64 * 1024;
 
-using Direction = CodePageStream::Direction;
+using Direction = CodePageConverter::Direction;
 
 void Write(const std::string& bytes) {
   if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size()) {
@@ -33,7 +32,7 @@ std::string Counted(uint64_t count, const char* what) {
 }
 
 void Run(uint32_t codePage, Direction direction) {
-  CodePageStream stream(codePage, direction);
+  CodePageConverter stream(codePage, direction);
   std::vector<char> block(kBlockBytes);
   std::string out;
   for (bool last = false; !last;) {

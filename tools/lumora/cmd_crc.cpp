@@ -3,7 +3,7 @@
 #include "commands.h"
 #include "printable_text.h"
 
-#include <lumora/support/crc32.h>
+#include <lumora/maintenance.h>
 
 #include <cinttypes>
 #include <cstdio>
@@ -16,23 +16,6 @@
 namespace lumora::cli {
 namespace {
 
-constexpr size_t kReadBlock = 1 << 20;
-
-// Empty when the file cannot be opened or a read fails (a folder opens but cannot be read).
-std::optional<uint32_t> FileCrc(const std::string& path) {
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
-                                                       &std::fclose);
-  if (!file) return std::nullopt;
-  std::vector<char> block(kReadBlock);
-  CrcAccumulator crc;
-  size_t got;
-  while ((got = std::fread(block.data(), 1, block.size(), file.get())) > 0) {
-    crc.Update(block.data(), got);
-  }
-  if (std::ferror(file.get())) return std::nullopt;
-  return crc.value();
-}
-
 std::string Hex(uint32_t value) {
   char text[9];
   std::snprintf(text, sizeof text, "%08" PRIx32, value);
@@ -43,7 +26,7 @@ void RunCrc(const std::vector<std::string>& paths, bool json) {
   auto list = nlohmann::ordered_json::array();
   bool all_read = true;
   for (const auto& path : paths) {
-    std::optional<uint32_t> crc = FileCrc(path);
+    std::optional<uint32_t> crc = FileCrc32(path);
     if (!crc) {
       std::fprintf(stderr, "lumora crc: cannot read %s\n", path.c_str());
       all_read = false;

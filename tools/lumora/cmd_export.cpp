@@ -8,19 +8,14 @@
 // published file it failed to write. So the tool checks the export afterwards, and an error
 // there that the source does not have fails the command like a line of the report.
 #include <lumora/lumora.h>
-#include <lumora/packages/export_folder.h>
-#include <lumora/platform/atomic_write.h>
-#include <lumora/support/paths.h>
-#include <lumora/support/profile_file.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -34,7 +29,6 @@
 #include "export_lists.h"
 #include "export_progress.h"
 #include "printable_text.h"
-#include "uncopied_media.h"
 #include "written_files.h"
 
 namespace lumora::cli {
@@ -56,78 +50,12 @@ struct Options {
   bool json = false;
 };
 
-// The keys of the source's section for the discipline that the exported tree keeps. Local is
-// left out: the exported discipline's files lie below the new root.
-constexpr const char* kCopiedKeys[] = {"Discipline", "Type", "Param", "URL", "UNC"};
-
-std::string SectionName(int number) {
-  char name[16];
-  std::snprintf(name, sizeof name, "%03d", number);
-  return name;
-}
-
-// The discipline's section of the source's Content.ini, as the destination's section 001.
-std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
-  ProfileFile ini;
-  if (!ini.Load(WithBackslash(root) + "Content.ini")) {
-    throw CommandFailure(root + ": Content.ini cannot be read");
-  }
-  for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
-    if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
-    std::string text = "[001]\r\n";
-    for (const char* key : kCopiedKeys)
-      text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
-    return text;
-  }
-  throw CommandFailure(root + ": Content.ini has no section for discipline " +
-                       std::to_string(discipline));
-}
-
-// The export's publishing pass writes beside the resources of every discipline that DEST's
-// Content.ini lists, below their Local roots: one that points outside DEST would have files of
-// another tree rewritten. The library passes such a discipline over; the tool refuses the
-// destination before anything is written, so that the export is never a partial one.
-void CheckLocalRoots(const std::string& destination) {
-  ProfileFile ini;
-  if (!ini.Load(WithBackslash(destination) + "Content.ini")) return;
-  std::vector<std::string> sections = {"Common"};
-  for (int n = 1; ini.FindSection(SectionName(n)); ++n) sections.push_back(SectionName(n));
-  for (const std::string& section : sections) {
-    if (!ini.FindSection(section)) continue;
-    std::string local = ini.GetString("Local");
-    if (local.empty()) continue;
-    std::replace(local.begin(), local.end(), '\\', '/');
-    if (!PathIsWithin(local, destination)) {
-      throw CommandFailure(WithBackslash(destination) + "Content.ini: section " + section +
-                           " has its files in " + local +
-                           ", outside the destination, where the export would write");
-    }
-  }
-}
-
-// DEST with its export folder, an empty database there unless one exists, and a Content.ini
-// unless DEST has one. Answers the export folder.
+// DEST made ready for the export; a destination that cannot be is a CommandFailure.
 std::string PrepareDestination(const Options& options) {
-  const fs::path destination(options.destination);
-  std::error_code error;
-  if (fs::exists(destination, error) && !fs::is_directory(destination, error)) {
-    throw CommandFailure(options.destination + ": is not a folder");
-  }
-  CheckLocalRoots(options.destination);
-  const std::string exportFolder = ExportFolderOf(options.destination, options.discipline);
-  fs::create_directories(exportFolder, error);
-  if (error) throw CommandFailure(exportFolder + ": cannot be created: " + error.message());
-  // An empty file is an empty database; one that exists is left for the export to judge.
-  const std::string database = exportFolder + "Content.mdb";
-  if (!fs::exists(database) && !std::ofstream(database, std::ios::binary)) {
-    throw CommandFailure(database + ": cannot be created");
-  }
-  const std::string ini = WithBackslash(options.destination) + "Content.ini";
-  if (!fs::exists(ini)) {
-    const WriteStatus written =
-        WriteFileAtomically(ini, ExportedContentIni(options.root, options.discipline));
-    if (!written.ok()) throw CommandFailure(written.ToString());
-  }
+  Status status;
+  const std::string exportFolder =
+      PrepareExportDestination(options.root, options.discipline, options.destination, &status);
+  if (!status.ok()) throw CommandFailure(status.reason);
   return exportFolder;
 }
 
@@ -222,7 +150,7 @@ void Run(const Options& options) {
   const std::string sourceLocalRoot = DisciplineFor(options.discipline).localRoot;
   const std::string exportFolder = PrepareDestination(options);
   // What the export writes: the files of the export folder (its database aside) and of Classes.
-  const WrittenFiles written({exportFolder, WithBackslash(options.destination) + "Classes"},
+  const WrittenFiles written({exportFolder, (fs::path(options.destination) / "Classes").string()},
                              exportFolder + "Content.mdb");
 
   const Exported exported = RunExport(options, lists, quality);

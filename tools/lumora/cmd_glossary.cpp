@@ -1,7 +1,7 @@
 // `lumora glossary ROOT -d ID (find TEXT | word FNID | letters | by-letter) [--json]`: a
 // discipline's glossary as the host sees it.
-#include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <cstdint>
 #include <memory>

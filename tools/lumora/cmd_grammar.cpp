@@ -1,7 +1,7 @@
 // `lumora grammar ROOT -d ID (point P | find TEXT --language L | levels | categories)
 // [--first ID --second ID] [--json]`: a discipline's grammar as the host sees it.
-#include <lumora/frame/load_failures.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 // `lumora index ROOT -d ID [--type T]`: what a discipline's index files hold, type by type in the
 // order they were loaded.
-#include <lumora/describe/index_description.h>
+#include <lumora/descriptions.h>
 #include <lumora/lumora.h>
 
 #include <iostream>

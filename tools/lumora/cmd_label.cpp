@@ -1,8 +1,6 @@
 // `lumora label CODE [--json]`: what a context code names, in the library's two labels and its
 // diagnostic description. The code is taken as a context that is not a glossary word.
-#include <lumora/resources/context_description.h>
-#include <lumora/resources/context_labels.h>
-#include <lumora/resources/text_context.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -18,21 +16,21 @@ namespace lumora::cli {
 namespace {
 
 void Run(const std::string& code_text, bool json) {
-  const TextContext context(ParseNumber(code_text, "context code"), -1);
-  const std::string technical = PrintableText(TechnicalLabel(context.code), kWindowsAnsi);
-  const std::string readable = PrintableText(ReadableLabel(context), kWindowsAnsi);
-  const std::string description = PrintableText(DescribeContext(&context), kWindowsAnsi);
+  const ContextLabels labels = LabelContext(ParseNumber(code_text, "context code"));
+  const std::string& technical = labels.technical;
+  const std::string& readable = labels.readable;
+  const std::string& description = labels.description;
   if (json) {
-    const nlohmann::ordered_json out = {{"code", context.code.value},
+    const nlohmann::ordered_json out = {{"code", labels.code},
                                         {"technical", technical},
                                         {"readable", readable},
                                         {"description", description},
-                                        {"valid", context.IsValid()}};
+                                        {"valid", labels.valid}};
     PrintJson(out);
   } else {
     std::cout << "technical:   " << technical << '\n'
               << "readable:    " << readable << '\n'
-              << "valid:       " << (context.IsValid() ? "yes" : "no") << '\n'
+              << "valid:       " << (labels.valid ? "yes" : "no") << '\n'
               << "description:\n"
               << description << '\n';
   }

@@ -1,5 +1,5 @@
 // `lumora languages [--json]`: the language table, one row per language number.
-#include <lumora/support/language_table.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -14,9 +14,8 @@ namespace {
 
 void PrintRowsJson() {
   nlohmann::ordered_json rows = nlohmann::ordered_json::array();
-  for (unsigned number = 0; number < kLanguageCount; ++number) {
-    const LanguageInfo& row = LanguageRow(number);
-    rows.push_back({{"number", number},
+  for (const LanguageRowInfo& row : LanguageTable()) {
+    rows.push_back({{"number", row.number},
                     {"name", row.name},
                     {"code", row.code},
                     {"charset", row.charset},
@@ -30,10 +29,9 @@ void PrintRowsJson() {
 void PrintTable() {
   std::printf("%-6s %-16s %-4s %7s %3s %8s %6s\n", "number", "name", "code", "charset", "ltr",
               "codepage", "langid");
-  for (unsigned number = 0; number < kLanguageCount; ++number) {
-    const LanguageInfo& row = LanguageRow(number);
-    std::printf("%6u %-16s %-4s %7u %3u %8u 0x%04X\n", number, row.name, row.code, row.charset,
-                row.leftToRight, row.codePage, row.langId);
+  for (const LanguageRowInfo& row : LanguageTable()) {
+    std::printf("%6u %-16s %-4s %7u %3u %8u 0x%04X\n", row.number, row.name.c_str(),
+                row.code.c_str(), row.charset, row.leftToRight, row.codePage, row.langId);
   }
 }
 

@@ -1,6 +1,6 @@
 // `lumora open ROOT [--filter ID] [--json]`: what opening a content root registers.
-#include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -20,7 +20,7 @@ struct Options {
   bool json = false;
 };
 
-nlohmann::ordered_json DisciplineJson(const OpenedDiscipline& d) {
+nlohmann::ordered_json DisciplineJson(const DisciplineSummary& d) {
   nlohmann::ordered_json types = nlohmann::ordered_json::array();
   const ContentRequest request = RequestFor(d.id);
   if (const ResourceIndex* index = lmGetResourceInfos(&request)) {
@@ -37,8 +37,7 @@ nlohmann::ordered_json DisciplineJson(const OpenedDiscipline& d) {
 void Run(const Options& options) {
   OpenedContent content(options.root, options.filter);
   nlohmann::ordered_json disciplines = nlohmann::ordered_json::array();
-  for (const OpenedDiscipline& d : ListOpenedDisciplines())
-    disciplines.push_back(DisciplineJson(d));
+  for (const DisciplineSummary& d : OpenedDisciplines()) disciplines.push_back(DisciplineJson(d));
   if (options.json) {
     PrintJson({{"ok", content.ok()}, {"disciplines", disciplines}});
   } else {

@@ -1,8 +1,8 @@
 // `lumora packages ROOT -d ID [--resources P[,P...]] [--json]`: a discipline's packages with
 // version, generation date and title in every language, or the resource rows of some of them.
-#include <lumora/describe/package_description.h>
-#include <lumora/frame/package_queries.h>
+#include <lumora/descriptions.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <cstdio>
 #include <memory>

@@ -1,15 +1,11 @@
 // `lumora rebuild-index ROOT -d ID [--type T] [--out DIR | --in-place] [--json]`: rescans a
 // discipline's resource files and writes its index files anew. Overwriting the discipline's own
 // index files takes --in-place, so that a trial run never replaces them by accident.
-#include <lumora/resources/index_rebuild.h>
-#include <lumora/resources/indexed_numbers.h>
-#include <lumora/resources/resource_index.h>
-#include <lumora/resources/type_catalog.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -30,41 +26,30 @@ struct Options {
   bool json = false;
 };
 
-std::string IndexFolder(const Options& options, const OpenedDiscipline& discipline) {
+std::string IndexFolder(const Options& options, const DisciplineSummary& discipline) {
   if (options.out.empty()) return discipline.dataFolder;
-  std::string folder = options.out;
-  if (folder.back() != '/') folder.push_back('/');
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (error) throw CommandFailure("cannot create " + folder + ": " + error.message());
-  return folder;
+  // The rebuild creates the folder.
+  return options.out.back() == '/' ? options.out : options.out + '/';
 }
 
-nlohmann::ordered_json Described(uint32_t type, bool built, const std::string& folder) {
-  nlohmann::ordered_json out{{"type", type}, {"ok", built}};
-  std::unique_ptr<TypeIndex> index = NewTypeIndex(type);
-  const auto indexed = index->Load(IndexFilePath(folder, type)) ? NumbersOf(*index) : std::nullopt;
-  out["groups"] = indexed ? indexed->groups : 0;
-  out["entries"] = indexed ? indexed->numbers.size() : 0;
-  return out;
+nlohmann::ordered_json Described(const RebuiltIndex& rebuilt) {
+  return {{"type", rebuilt.type},
+          {"ok", rebuilt.built},
+          {"groups", rebuilt.groups},
+          {"entries", rebuilt.entries}};
 }
 
 // In place, every index file is replaced in one commit; elsewhere each is written on its own.
-std::vector<TypeRebuild> RebuildAll(const Options& options, const OpenedDiscipline& discipline,
-                                    const std::string& folder) {
+std::vector<RebuiltIndex> RebuildAll(const Options& options, const DisciplineSummary& discipline,
+                                     const std::string& folder) {
   std::vector<uint32_t> types;
-  for (uint32_t type : kExerciseTypes) {
+  for (uint32_t type : ExerciseTypeNumbers()) {
     if (!options.type || *options.type == type) types.push_back(type);
   }
-  std::vector<TypeRebuild> results;
-  if (options.inPlace) {
-    const WriteStatus saved = RebuildIndexesInPlace(discipline.localRoot, folder, types, results);
-    if (!saved.ok()) throw CommandFailure("nothing was replaced: " + saved.ToString());
-    return results;
-  }
-  for (uint32_t type : types) {
-    results.push_back({type, BuildTypeIndex(type, discipline.localRoot, folder)});
-  }
+  std::vector<RebuiltIndex> results;
+  const Status rebuilt =
+      RebuildIndexes(discipline.localRoot, folder, types, options.inPlace, &results);
+  if (!rebuilt.ok()) throw CommandFailure(rebuilt.reason);
   return results;
 }
 
@@ -73,13 +58,13 @@ void Run(const Options& options) {
     throw CommandFailure("not an exercise type: " + std::to_string(*options.type));
   }
   OpenedContent content(options.root, 0);
-  const OpenedDiscipline discipline = DisciplineFor(options.discipline);
+  const DisciplineSummary discipline = DisciplineFor(options.discipline);
   const std::string folder = IndexFolder(options, discipline);
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();
   bool all_ok = true;
-  for (const TypeRebuild& rebuilt : RebuildAll(options, discipline, folder)) {
-    results.push_back(Described(rebuilt.type, rebuilt.built, folder));
+  for (const RebuiltIndex& rebuilt : RebuildAll(options, discipline, folder)) {
+    results.push_back(Described(rebuilt));
     all_ok = all_ok && rebuilt.built;
   }
   if (options.json) {

@@ -1,10 +1,8 @@
 // `lumora resource ROOT -d ID --type T --id RID [--path-kind K] [--order N] [--no-media]`: one
 // resource decoded, with the paths of its media.
-#include <lumora/describe/resource_description.h>
-#include <lumora/frame/resource_reading.h>
+#include <lumora/descriptions.h>
 #include <lumora/lumora.h>
-#include <lumora/resources/resource_id.h>
-#include <lumora/resources/type_catalog.h>
+#include <lumora/maintenance.h>
 
 #include <cstdio>
 #include <iostream>
@@ -52,7 +50,7 @@ void Run(const Options& options) {
     PrintJson(out);
   } else if (ok) {
     std::printf("resource 0x%08x: type %u, course %u, number %u\n", resource_id, options.type,
-                CourseOf(resource_id), NumberOf(resource_id));
+                ResourceCourse(resource_id), ResourceNumber(resource_id));
     Description fields = out;
     for (const char* head : {"ok", "type", "resourceId", "course", "number", "allMedia"}) {
       fields.erase(head);

@@ -1,7 +1,7 @@
 // `lumora serve ROOT [--address A] [--port P] [--threads N] [--quiet]`: serves a content root
 // over HTTP, read-only, until SIGINT or SIGTERM.
 #include <lumora/content.h>
-#include <lumora/describe/printable_text.h>
+#include <lumora/maintenance.h>
 
 #include <pthread.h>
 #include <signal.h>

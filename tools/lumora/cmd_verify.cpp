@@ -1,7 +1,7 @@
 // `lumora verify ROOT -d ID [--type T] [--quality 1,2,3] [--json]`: checks that every resource a
 // discipline's index lists finds its media and the resource files it refers to.
-#include <lumora/check/media_verification.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -25,7 +25,7 @@ struct Options {
   bool json = false;
 };
 
-nlohmann::ordered_json Described(const MediaVerification& v) {
+nlohmann::ordered_json Described(const VerifiedResource& v) {
   return {{"type", v.type},
           {"resourceId", v.resourceId},
           {"ok", v.ok()},
@@ -45,14 +45,14 @@ void Run(const Options& options) {
   const ByteArray quality = ParseQualityFolders(options.quality);
   OpenedContent content(options.root, 0);
   const ContentRequest request = RequestFor(options.discipline);
-  const OpenedDiscipline discipline = DisciplineFor(options.discipline);
+  const DisciplineSummary discipline = DisciplineFor(options.discipline);
   const ResourceIndex* index = lmGetResourceInfos(&request);
   if (index == nullptr) throw CommandFailure("discipline has no resource index");
 
   nlohmann::ordered_json results = nlohmann::ordered_json::array();
   uint32_t failures = 0;
-  for (const MediaVerification& v :
-       VerifyIndexedMedia(discipline.localRoot, *index, quality, options.type)) {
+  for (const VerifiedResource& v :
+       VerifyMedia(discipline.localRoot, *index, quality, options.type)) {
     results.push_back(Described(v));
     if (!v.ok()) ++failures;
   }

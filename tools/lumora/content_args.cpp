@@ -1,6 +1,6 @@
 #include "content_args.h"
 
-#include <lumora/frame/opened_disciplines.h>
+#include <lumora/maintenance.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -76,12 +76,12 @@ const char* PathKindName(uint32_t path_kind) {
 OpenedContent::OpenedContent(const std::string& root, uint32_t filter, bool databases)
     : ok_(databases ? lmOpen_Database(root.c_str(), filter) : lmOpen(root.c_str(), filter)) {}
 
-OpenedDiscipline DisciplineFor(uint32_t id) {
-  OpenedDiscipline discipline;
-  if (!FindOpenedDiscipline(id, &discipline)) {
+DisciplineSummary DisciplineFor(uint32_t id) {
+  std::optional<DisciplineSummary> discipline = OpenedDisciplineById(id);
+  if (!discipline) {
     throw CommandFailure("no open discipline with identifier " + std::to_string(id));
   }
-  return discipline;
+  return *discipline;
 }
 
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind, uint32_t order) {

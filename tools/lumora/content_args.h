@@ -2,9 +2,8 @@
 // pair.
 #pragma once
 
-#include <lumora/frame/opened_disciplines.h>
 #include <lumora/lumora.h>
-#include <lumora/platform/load_result.h>
+#include <lumora/maintenance.h>
 
 #include <CLI/CLI.hpp>
 
@@ -48,7 +47,7 @@ class OpenedContent {
 };
 
 // Open discipline `id`; throws a CommandFailure when none is open.
-OpenedDiscipline DisciplineFor(uint32_t id);
+DisciplineSummary DisciplineFor(uint32_t id);
 // A request for discipline `id`; throws when no open discipline has that identifier.
 ContentRequest RequestFor(uint32_t id, uint32_t path_kind = kPathLocal, uint32_t order = 1);
 

@@ -7,7 +7,6 @@
 #include <set>
 #include <tuple>
 
-#include "uncopied_media.h"
 
 namespace lumora::cli {
 namespace {

@@ -1,8 +1,6 @@
 #include "export_lists.h"
 
-#include <lumora/platform/utf8.h>
-#include <lumora/resources/type_catalog.h>
-#include <lumora/support/language_table.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 

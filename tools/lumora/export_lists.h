@@ -10,8 +10,7 @@
 // export would refuse halfway, or write other than it reads, is refused before anything is written.
 #pragma once
 
-#include <lumora/packages/package_records.h>
-#include <lumora/platform/typed_array.h>
+#include <lumora/lumora.h>
 
 #include <stdexcept>
 #include <string>

@@ -1,7 +1,7 @@
 // What `lumora glossary` prints for each of its subcommands, as JSON or as compact text.
 #pragma once
 
-#include <lumora/lexicon/glossary.h>
+#include <lumora/lumora.h>
 
 #include <cstdint>
 #include <string>

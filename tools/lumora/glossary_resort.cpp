@@ -1,9 +1,8 @@
 // `lumora glossary ROOT -d ID resort [--write] [--json]`: rebuilds a discipline's alphabetical
 // order and letter index from its written forms and shows the letters; --write saves the
 // headwords, the order and the letters back into the glossary folder.
-#include <lumora/lexicon/glossary_rebuild.h>
 #include <lumora/lumora.h>
-#include <lumora/platform/utf8.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 
@@ -46,11 +45,8 @@ void Resort(const GlossaryTarget& target, bool write) {
   const ContentRequest request = RequestFor(target.discipline);
   CGloV6* glossary = lmGetGlossary(&request);
   if (glossary == nullptr) throw CommandFailure("discipline has no glossary");
-  if (!rebuildSortAndLetters(*glossary)) throw CommandFailure("a rebuild is already running");
-  if (write) {
-    const WriteStatus saved = SaveSortAndLetters(*glossary);
-    if (!saved.ok()) throw CommandFailure("the glossary was not saved: " + saved.ToString());
-  }
+  const Status resorted = ResortGlossary(*glossary, write);
+  if (!resorted.ok()) throw CommandFailure(resorted.reason);
   PrintLetters(*glossary, write, target.json);
 }
 

@@ -1,5 +1,5 @@
 // One word of the glossary with its record, texts, sound, recognition data and links.
-#include <lumora/describe/glossary_description.h>
+#include <lumora/descriptions.h>
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 // Word lists by letter section: the text search, the filtered letter search and the letters.
-#include <lumora/describe/glossary_description.h>
-#include <lumora/platform/utf8.h>
+#include <lumora/descriptions.h>
+#include <lumora/maintenance.h>
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 // Grammar point lists, as text or JSON: found points, levels and categories.
-#include <lumora/describe/grammar_description.h>
-#include <lumora/platform/utf8.h>
+#include <lumora/descriptions.h>
+#include <lumora/maintenance.h>
 
 #include <iostream>
 

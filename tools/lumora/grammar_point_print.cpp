@@ -1,5 +1,5 @@
 // One grammar point with everything it holds, as text or JSON.
-#include <lumora/describe/grammar_description.h>
+#include <lumora/descriptions.h>
 
 #include <iostream>
 

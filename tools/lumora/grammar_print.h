@@ -1,7 +1,7 @@
 // What `lumora grammar` prints for each of its subcommands, as JSON or as compact text.
 #pragma once
 
-#include <lumora/lexicon/grammar.h>
+#include <lumora/lumora.h>
 
 #include <cstdint>
 #include <string>

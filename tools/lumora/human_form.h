@@ -2,7 +2,7 @@
 // without a kind and empty or default values left out.
 #pragma once
 
-#include <lumora/describe/description.h>
+#include <lumora/descriptions.h>
 
 namespace lumora::cli {
 

@@ -1,5 +1,5 @@
 #include <lumora/lumora.h>
-#include <lumora/support/internal_log.h>
+#include <lumora/maintenance.h>
 
 #include "commands.h"
 
@@ -31,7 +31,7 @@ constexpr uint8_t kLogFilesKept = 7;
 // The library writes its internal log only when the host installs it; the tool does so for
 // the length of one command when asked, so that configuration and database reports can be read.
 struct LogInstallation {
-  ~LogInstallation() { lumora::RemoveLog(); }
+  ~LogInstallation() { lumora::RemoveInternalLog(); }
 };
 
 // The library drops log lines it cannot write, so a folder that cannot take them is refused
@@ -48,7 +48,7 @@ void InstallLogIn(const std::string& folder) {
   if (error) {
     throw lumora::cli::CommandFailure("cannot use log folder " + folder + ": " + error.message());
   }
-  lumora::InstallLog(folder, kLogFilesKept);
+  lumora::InstallInternalLog(folder, kLogFilesKept);
 }
 
 void AddLogFolderOption(CLI::App& app) {

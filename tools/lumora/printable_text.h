@@ -3,7 +3,7 @@
 // so that no command fails on the text it prints.
 #pragma once
 
-#include <lumora/describe/printable_text.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 

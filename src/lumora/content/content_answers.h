@@ -11,6 +11,8 @@
 
 namespace lumora {
 
+struct OpenedDiscipline;
+
 Status NotFound(std::string reason);
 // A load failure, its file relative to `root` when it lies below it.
 Status Unreadable(const std::string& root, const LoadFailure& failure);
@@ -21,5 +23,8 @@ Answer Found(Description document);
 std::optional<ContentRequest> RequestFor(uint32_t id, uint32_t pathKind = kPathLocal,
                                          uint8_t order = 1);
 Status NoDiscipline(uint32_t id);
+
+// A registered discipline as the face gives it, with the types its index lists.
+DisciplineSummary SummaryOf(const OpenedDiscipline& discipline);
 
 }  // namespace lumora

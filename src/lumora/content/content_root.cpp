@@ -21,28 +21,6 @@ Status Failure(StatusCode code, std::string reason) {
   return status;
 }
 
-std::vector<uint32_t> IndexedTypes(uint32_t id) {
-  std::vector<uint32_t> types;
-  const std::optional<ContentRequest> request = RequestFor(id);
-  if (!request) return types;
-  if (const ResourceIndex* index = lmGetResourceInfos(&*request)) {
-    for (uint32_t type : index->types()) types.push_back(type);
-  }
-  return types;
-}
-
-DisciplineSummary Summary(const OpenedDiscipline& d) {
-  DisciplineSummary summary;
-  summary.id = d.id;
-  summary.language = static_cast<uint32_t>(d.param) & 0xFF;
-  summary.types = IndexedTypes(d.id);
-  summary.localRoot = d.localRoot;
-  summary.urlRoot = d.urlRoot;
-  summary.uncRoot = d.uncRoot;
-  summary.dataFolder = d.dataFolder;
-  return summary;
-}
-
 }  // namespace
 
 std::unique_ptr<ContentRoot> ContentRoot::Open(const std::string& root, const OpenOptions& options,
@@ -92,7 +70,7 @@ std::vector<DisciplineSummary> ContentRoot::Disciplines() const {
   std::shared_lock lock(LibraryMutex());
   std::vector<DisciplineSummary> disciplines;
   if (!open_) return disciplines;
-  for (const OpenedDiscipline& d : ListOpenedDisciplines()) disciplines.push_back(Summary(d));
+  for (const OpenedDiscipline& d : ListOpenedDisciplines()) disciplines.push_back(SummaryOf(d));
   return disciplines;
 }
 
@@ -100,7 +78,7 @@ std::optional<DisciplineSummary> ContentRoot::Discipline(uint32_t id) const {
   std::shared_lock lock(LibraryMutex());
   OpenedDiscipline found;
   if (!open_ || !FindOpenedDiscipline(id, &found)) return std::nullopt;
-  return Summary(found);
+  return SummaryOf(found);
 }
 
 Description ContentRoot::DescribeOpen() const {

@@ -5,6 +5,8 @@
 
 #include <lumora/resources/media_ref.h>
 
+#include <cstdint>
+
 #include <nlohmann/json.hpp>
 
 // The library's public surface: exported from the shared library.
@@ -13,6 +15,9 @@
 namespace lumora {
 
 using Description = nlohmann::ordered_json;
+
+// The Western code page: the narrow encoding of paths and of texts outside a discipline.
+inline constexpr uint32_t kWindowsAnsi = 1252;
 
 // {"kind", "folder", "resource", "path"}: the path as printable UTF-8, empty when not resolved.
 Description DescribeMedia(const MediaRef& media);

@@ -1,5 +1,6 @@
 #include <lumora/describe/glossary_description.h>
 #include <lumora/describe/printable_text.h>
+#include <lumora/descriptions.h>
 #include <lumora/platform/utf8.h>
 
 #include <vector>

@@ -1,4 +1,5 @@
 #include <lumora/describe/grammar_description.h>
+#include <lumora/descriptions.h>
 #include <lumora/platform/utf8.h>
 
 namespace lumora {

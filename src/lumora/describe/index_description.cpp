@@ -1,6 +1,7 @@
 #include <lumora/describe/index_description.h>
 #include <lumora/describe/printable_text.h>
 #include <lumora/describe/resource_describer.h>
+#include <lumora/descriptions.h>
 #include <lumora/frame/resource_reading.h>
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>

@@ -1,5 +1,6 @@
 #include <lumora/describe/printable_text.h>
 #include <lumora/frame/opened_disciplines.h>
+#include <lumora/maintenance.h>
 #include <lumora/platform/codepage.h>
 #include <lumora/platform/utf8.h>
 #include <lumora/support/language_table.h>

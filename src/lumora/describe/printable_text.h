@@ -9,18 +9,14 @@
 // U+FFFD.
 #pragma once
 
+#include <lumora/describe/description.h>
 #include <lumora/support/wide_text.h>
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
-
-inline constexpr uint32_t kWindowsAnsi = 1252;
 
 std::string PrintableText(std::string_view narrow, uint32_t codePage);
 std::string PrintableText(std::string_view narrow);
@@ -33,5 +29,3 @@ std::string Utf8(const WideText& text);
 uint32_t DisciplineTextCodePage(uint32_t id);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

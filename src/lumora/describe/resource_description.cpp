@@ -1,6 +1,7 @@
 #include <lumora/describe/printable_text.h>
 #include <lumora/describe/resource_describer.h>
 #include <lumora/describe/resource_description.h>
+#include <lumora/descriptions.h>
 #include <lumora/resources/resource_id.h>
 
 namespace lumora {

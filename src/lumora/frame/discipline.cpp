@@ -1,5 +1,6 @@
 #include <lumora/frame/content_config.h>
 #include <lumora/frame/discipline.h>
+#include <lumora/resources/type2000_index.h>
 
 namespace lumora {
 

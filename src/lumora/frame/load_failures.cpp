@@ -1,5 +1,6 @@
 #include <lumora/frame/library_state.h>
 #include <lumora/frame/load_failures.h>
+#include <lumora/maintenance.h>
 
 namespace lumora {
 namespace {

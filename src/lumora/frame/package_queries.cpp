@@ -2,6 +2,7 @@
 #include <lumora/frame/library_state.h>
 #include <lumora/frame/package_queries.h>
 #include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 #include <lumora/packages/package_tables.h>
 
 namespace lumora {

@@ -1,5 +1,6 @@
 #include <lumora/frame/library_state.h>
 #include <lumora/frame/resource_reading.h>
+#include <lumora/maintenance.h>
 #include <lumora/resources/resource_files.h>
 
 namespace lumora {

@@ -1,3 +1,4 @@
+#include <lumora/maintenance.h>
 #include <lumora/platform/codepage.h>
 #include <lumora/platform/codepage_converter.h>
 

@@ -1,3 +1,4 @@
+#include <lumora/maintenance.h>
 #include <lumora/platform/utf8.h>
 
 #include <unicode/ustring.h>

@@ -1,3 +1,4 @@
+#include <lumora/maintenance.h>
 #include <lumora/resources/index_forms.h>
 #include <lumora/resources/type2000_index.h>
 #include <lumora/resources/type21_index.h>

@@ -1,3 +1,4 @@
+#include <lumora/maintenance.h>
 #include <lumora/support/language_table.h>
 
 #include <cstring>

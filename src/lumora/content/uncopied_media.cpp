@@ -1,8 +1,8 @@
-#include "uncopied_media.h"
-
+#include <lumora/maintenance.h>
 #include <lumora/platform/atomic_write.h>
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/resource_id.h>
+#include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/type1003.h>
 #include <lumora/resources/types/type19.h>
@@ -15,7 +15,7 @@
 #include <memory>
 #include <set>
 
-namespace lumora::cli {
+namespace lumora {
 namespace {
 
 namespace fs = std::filesystem;
@@ -133,15 +133,14 @@ UncopiedMediaCopy CopyUncopiedMedia(const std::string& sourceLocalRoot,
   std::error_code error;
   for (fs::directory_iterator it(exportFolder, error), end; !error && it != end;
        it.increment(error)) {
-    unsigned course = 0;
-    const std::string name = it->path().filename().string();
-    if (name.size() != 5 || std::sscanf(name.c_str(), "C%4u", &course) != 1) continue;
+    const std::optional<uint32_t> course = CourseNumberOf(it->path().filename().string());
+    if (!course) continue;
     for (uint32_t type : kUncopiedTypes) {
       ForEachResourceFile(it->path() / NumberedName('r', type),
                           [&](const std::string& path, uint32_t number) {
                             std::unique_ptr<ExerciseResource> resource = NewResource(type);
                             if (!LoadArchiveFile(path, false, *resource)) return;
-                            CopyMediaOf(*resource, MakeResourceId(course, number), quality, copier);
+                            CopyMediaOf(*resource, MakeResourceId(*course, number), quality, copier);
                           });
     }
   }
@@ -150,4 +149,4 @@ UncopiedMediaCopy CopyUncopiedMedia(const std::string& sourceLocalRoot,
   return std::move(copier.result());
 }
 
-}  // namespace lumora::cli
+}  // namespace lumora
