@@ -53,17 +53,17 @@ TEST(WideFormat, MisuseIsReportedNotGuessed) {
 TEST(WideFormat, TextKeepsLongResultsWhole) {
   WideText text;
   const std::u16string full(4096, u'a');
-  text.Format(u"%s", full);
+  text.Assign(FormatWide(u"%s", full));
   EXPECT_EQ(text.view(), full);
   EXPECT_EQ(text.capacity(), 4096u);
 
-  text.Format(u"%4096d", 7);
+  text.Assign(FormatWide(u"%4096d", 7));
   EXPECT_EQ(text.length(), 4096u);
   EXPECT_EQ(text.view().back(), u'7');
 
   // Statements carrying long user texts must not be cut.
   const std::u16string half(5000, u'b');
-  text.Format(u"INSERT '%s' '%s'", half, half);
+  text.Assign(FormatWide(u"INSERT '%s' '%s'", half, half));
   EXPECT_EQ(text.length(), 10000u + 12u);
   EXPECT_EQ(text.view().substr(text.length() - 3), u"bb'");
 }

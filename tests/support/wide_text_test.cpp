@@ -1,5 +1,6 @@
 #include <lumora/platform/archive.h>
 #include <lumora/platform/stream.h>
+#include <lumora/support/wide_format.h>
 #include <lumora/support/wide_text.h>
 
 #include <gtest/gtest.h>
@@ -48,7 +49,7 @@ TEST(WideText, EmptyTextsOwnNothing) {
   ExpectNoOwnBuffer(WideText("", 1252), "FromNarrow empty");
   ExpectNoOwnBuffer(WideText(std::string("\0abc", 4), 1252), "FromNarrow leading zero");
   WideText formatted(u"x");
-  formatted.Format(u"%s", u"");
+  formatted.Assign(FormatWide(u"%s", u""));
   ExpectNoOwnBuffer(formatted, "Format empty");
 }
 

@@ -12,9 +12,6 @@
 #include <string>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct MediaVerification {
@@ -38,5 +35,3 @@ std::vector<MediaVerification> VerifyIndexedMedia(
     const std::function<bool(const std::string& path)>& wanted = {});
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

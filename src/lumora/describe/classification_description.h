@@ -10,13 +10,8 @@
 #include <lumora/describe/description.h>
 #include <lumora/lexicon/classification.h>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 Description DescribeClassification(const Classification& classification);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

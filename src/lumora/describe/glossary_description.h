@@ -6,9 +6,6 @@
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // One word with everything the glossary holds about it: its record, written form, comments,
@@ -24,5 +21,3 @@ Description DescribeWordBuckets(const CGloV6& glossary, const WordBuckets& bucke
 Description DescribeLetters(const CGloV6& glossary);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -7,9 +7,6 @@
 #include <cstdint>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // One point with its titles, pictures, subpoints (level, category, titles, keywords) and
@@ -29,5 +26,3 @@ Description DescribeGrammarLevels(const CGramV6& grammar, uint32_t first, uint32
 Description DescribeGrammarCategories(const CGramV6& grammar, uint32_t first, uint32_t second);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

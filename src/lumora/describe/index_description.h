@@ -14,9 +14,6 @@
 #include <cstdint>
 #include <optional>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // The index of the discipline of `request`, or only its type `onlyType`. The pictures of type
@@ -25,5 +22,3 @@ Description DescribeIndex(const ResourceIndex& index, const ContentRequest& requ
                           std::optional<uint32_t> onlyType = std::nullopt);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

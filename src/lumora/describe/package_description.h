@@ -4,9 +4,6 @@
 #include <lumora/describe/description.h>
 #include <lumora/packages/package_records.h>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // [{"id", "version", "date", "idString", "titles": [{"language", "code", "codePage", "text"}]}]:
@@ -18,5 +15,3 @@ Description DescribePackages(const PackageList& packages, const TranslationList&
 Description DescribePackageResources(const PackageResourceList& rows);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -12,9 +12,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // A resource read from open discipline `disciplineId` (whose language gives the code page of its
@@ -26,5 +23,3 @@ Description DescribeResource(const ExerciseResource& resource, uint32_t resource
 Description DescribeUnreadResource(uint32_t type, uint32_t resourceId, const std::string& reason);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -8,9 +8,6 @@
 #include <cstdint>
 #include <optional>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // The first table of open discipline `disciplineId`'s glossary that did not load, with the
@@ -23,5 +20,3 @@ std::optional<LoadFailure> GrammarLoadFailure(uint32_t disciplineId);
 std::optional<LoadFailure> ClassificationLoadFailure();
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

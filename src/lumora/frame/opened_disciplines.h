@@ -6,9 +6,6 @@
 #include <string>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct OpenedDiscipline {
@@ -29,5 +26,3 @@ std::vector<OpenedDiscipline> ListOpenedDisciplines();
 bool FindOpenedDiscipline(uint32_t id, OpenedDiscipline* found);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

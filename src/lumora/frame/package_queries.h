@@ -6,9 +6,6 @@
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Appends the rows of t_PackagesResources whose package is in packageIds. False for an
@@ -17,5 +14,3 @@ bool GetPackageResources(uint32_t disciplineId, const DWordArray* packageIds,
                          PackageResourceList* list);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -10,9 +10,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // lmGetResource's read. A request for no open discipline, or no resource object, fails without
@@ -24,5 +21,3 @@ LoadResult ReadResource(const ContentRequest* request, uint32_t resourceId,
 bool MediaPathFor(const ContentRequest* request, MediaRef media, std::string* path);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

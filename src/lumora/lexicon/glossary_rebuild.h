@@ -5,9 +5,6 @@
 #include <lumora/lexicon/glossary.h>
 #include <lumora/platform/write_status.h>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Replaces `sorted` and `letters` and gives every headword (kind 1) the letter section it now
@@ -20,5 +17,3 @@ bool rebuildSortAndLetters(CGloV6& g);
 WriteStatus SaveSortAndLetters(CGloV6& g);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -14,9 +14,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // The three families of set files differ only in the version they write and accept.
@@ -85,5 +82,3 @@ bool WriteSetTable(const std::string& folder, std::u16string_view name, SetFamil
 }
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -13,9 +13,6 @@
 #include <string_view>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 enum class SetChecksum { kGood, kBad, kUnlisted };
@@ -50,5 +47,3 @@ SetFileCheck CheckSetFile(const std::string& path);
 std::optional<std::vector<SetFileCheck>> CheckSetFolder(const std::string& folder);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

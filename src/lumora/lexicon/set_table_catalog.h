@@ -11,9 +11,6 @@
 #include <string_view>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct DecodedSetRecord {
@@ -47,5 +44,3 @@ std::vector<const KnownSetTable*> SetTablesOf(SetFamily family);
 const KnownSetTable* FindSetTable(std::string_view name);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

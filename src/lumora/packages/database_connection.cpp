@@ -1,5 +1,6 @@
 #include <lumora/packages/database_connection.h>
 #include <lumora/support/internal_log.h>
+#include <lumora/support/wide_format.h>
 
 #include <algorithm>
 #include <new>
@@ -27,15 +28,16 @@ constexpr int32_t kSchemaVersion = 3;
 
 WideText IdentifierTableStatement() {
   WideText sql;
-  sql.Format(u"CREATE TABLE %s (%s INTEGER CONSTRAINT x PRIMARY KEY, %s INTEGER, %s TEXT(128))",
-             kIdentifierTable, u"f_IdTable", u"f_NextId", u"f_Comment");
+  sql.Assign(
+      FormatWide(u"CREATE TABLE %s (%s INTEGER CONSTRAINT x PRIMARY KEY, %s INTEGER, %s TEXT(128))",
+                 kIdentifierTable, u"f_IdTable", u"f_NextId", u"f_Comment"));
   return sql;
 }
 
 WideText VersionRowStatement() {
   WideText sql;
-  sql.Format(u"INSERT INTO %s VALUES (%d,%d,'%s')", kIdentifierTable, kVersionRow, kSchemaVersion,
-             u"Version Number");
+  sql.Assign(FormatWide(u"INSERT INTO %s VALUES (%d,%d,'%s')", kIdentifierTable, kVersionRow,
+                        kSchemaVersion, u"Version Number"));
   return sql;
 }
 

@@ -4,9 +4,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Format("%sD%03d/", destinationRoot, disciplineId), the root given a separator when it lacks
@@ -14,5 +11,3 @@ namespace lumora {
 std::string ExportFolderOf(const std::string& destinationRoot, uint32_t disciplineId);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

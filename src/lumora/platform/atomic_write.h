@@ -12,9 +12,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 inline constexpr std::string_view kStagingSuffix = ".lumora-new";
@@ -74,5 +71,3 @@ class DeferredFlush {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -17,9 +17,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 inline constexpr uint16_t kFallbackCodePage = 1252;
@@ -31,5 +28,3 @@ std::u16string DecodeCodePage(std::string_view bytes, uint32_t codePage);
 std::string EncodeCodePage(std::u16string_view text, uint32_t codePage);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

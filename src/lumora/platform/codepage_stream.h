@@ -15,9 +15,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class CodePageStream {
@@ -40,5 +37,3 @@ class CodePageStream {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -6,9 +6,6 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class FolderLock {
@@ -39,5 +36,3 @@ class FolderLock {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -5,9 +5,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 std::u16string Utf8ToUtf16(std::string_view text);
@@ -16,5 +13,3 @@ std::string Utf16ToUtf8(std::u16string_view text);
 bool IsUtf8(std::string_view text);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -5,9 +5,6 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class WriteStatus {
@@ -34,5 +31,3 @@ const WriteStatus& LastWriteFailure();
 void ClearWriteFailure();
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

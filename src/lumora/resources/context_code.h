@@ -8,9 +8,6 @@
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class ContextCode {
@@ -61,5 +58,3 @@ class ContextCode {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -7,14 +7,9 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // "No context" for null.
 std::string DescribeContext(const TextContext* context);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

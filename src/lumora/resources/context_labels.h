@@ -10,14 +10,9 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 std::string TechnicalLabel(ContextCode code);
 std::string ReadableLabel(const TextContext& context);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -17,9 +17,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class GroupsIndex : public TypeIndex {
@@ -89,5 +86,3 @@ class PlainNumberIndex : public TypeIndex {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -9,9 +9,6 @@
 #include <string>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct TypeRebuild {
@@ -28,5 +25,3 @@ WriteStatus RebuildIndexesInPlace(const std::string& resource_root, const std::s
                                   std::vector<TypeRebuild>& results);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -8,9 +8,6 @@
 #include <optional>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct IndexedNumbers {
@@ -22,5 +19,3 @@ struct IndexedNumbers {
 std::optional<IndexedNumbers> NumbersOf(const TypeIndex& index);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -10,9 +10,6 @@
 #include <string>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Looks `media` up below `root` once per listed quality folder, as the export will, stopping
@@ -41,5 +38,3 @@ std::vector<LinkedFile> LinkedResourceFiles(const std::string& root, const Recor
                                             uint32_t resource_id);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

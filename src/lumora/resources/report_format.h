@@ -4,13 +4,8 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 std::string FormatReportLine(const char* pattern, ...) __attribute__((format(printf, 1, 2)));
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -12,9 +12,6 @@
 #include <optional>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class ResourceGroups : public Object {
@@ -45,5 +42,3 @@ class ResourceGroups : public Object {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

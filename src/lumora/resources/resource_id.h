@@ -6,9 +6,6 @@
 #include <cstdio>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 inline constexpr uint32_t kResourceNumberMask = 0xFFFFF;
@@ -36,5 +33,3 @@ inline std::string NumberedName(char letter, uint32_t number) {
 }
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -11,9 +11,6 @@
 #include <string_view>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct ScannedResource {
@@ -44,5 +41,3 @@ std::vector<ScannedResource> ScanResourceFiles(const std::string& resource_root,
 void ListResourceFolders(const std::string& resource_root, FolderListing& listing);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

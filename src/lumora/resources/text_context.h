@@ -11,9 +11,6 @@
 #include <memory>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class TextContext : public Object {
@@ -39,5 +36,3 @@ class TextContext : public Object {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

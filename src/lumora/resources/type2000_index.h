@@ -1,30 +1,13 @@
-// The description index of a discipline (type 2000): a KeyedTable of entries keyed by number,
-// each an attribute byte (its group key), titles per language and one medium.
-//
-// Entry stored form: u8 attribute, LanguageTexts, MediaRef (7 bytes).
+// The description index of a discipline (type 2000): a KeyedTable of entries keyed by number.
 #pragma once
 
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/index_forms.h>
-#include <lumora/resources/language_texts.h>
-#include <lumora/resources/media_ref.h>
+#include <lumora/resources/type2000_entry.h>
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
-
-class Type2000Entry : public Object {
- public:
-  const char* ClassName() const override { return "Type2000Entry"; }
-  void Serialize(Archive& ar) override;
-
-  uint8_t attribute = 0;
-  LanguageTexts titles;
-  MediaRef media;
-};
 
 class Type2000Index : public NumberListIndex<Type2000Entry> {
  public:
@@ -39,5 +22,3 @@ class Type2000Index : public NumberListIndex<Type2000Entry> {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

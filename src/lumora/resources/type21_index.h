@@ -13,9 +13,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class Type21Index : public TypeIndex {
@@ -37,5 +34,3 @@ class Type21Index : public TypeIndex {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -15,9 +15,6 @@
 #include <span>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // The media operations a type's class performs beyond the base class's "no
@@ -74,5 +71,3 @@ bool BuildTypeIndex(uint32_t type, const std::string& resource_root,
                     const std::string& index_folder);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

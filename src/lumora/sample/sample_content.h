@@ -6,9 +6,6 @@
 
 #include <lumora/sample/sample_layout.h>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora::sample {
 
 struct SampleOptions {
@@ -26,5 +23,3 @@ struct SampleOptions {
 bool WriteSampleContent(const std::string& dir, const SampleOptions& options, std::string* error);
 
 }  // namespace lumora::sample
-
-#pragma GCC visibility pop

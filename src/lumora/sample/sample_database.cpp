@@ -12,6 +12,7 @@
 #include <lumora/sample/sample_files.h>
 #include <lumora/sample/sample_layout.h>
 #include <lumora/sample/sample_package.h>
+#include <lumora/support/wide_format.h>
 
 namespace lumora::sample {
 namespace {
@@ -104,7 +105,7 @@ class Writer {
   template <typename... Args>
   bool Run(std::u16string_view pattern, const Args&... args) {
     WideText sql;
-    sql.Format(pattern, args...);
+    sql.Assign(FormatWide(pattern, args...));
     if (db_.Execute(sql)) return true;
     failed_ = Utf16ToUtf8(sql.view()) + ": " + db_.errorText;
     return false;

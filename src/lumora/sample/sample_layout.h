@@ -6,9 +6,6 @@
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora::sample {
 
 inline constexpr uint32_t kCourses[] = {1, 2};
@@ -63,5 +60,3 @@ inline uint32_t VideoNumber(uint32_t course, int unit, int slot, int item) {
 }
 
 }  // namespace lumora::sample
-
-#pragma GCC visibility pop

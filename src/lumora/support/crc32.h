@@ -5,9 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Checksum of a whole buffer, continuing from `start` (the value of the bytes before it).
@@ -28,5 +25,3 @@ class CrcAccumulator {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -19,9 +19,6 @@
 #include <string>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct LogSlot {
@@ -89,5 +86,3 @@ struct InternalLogSettings {
 InternalLogSettings& LogSettings();
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

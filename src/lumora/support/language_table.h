@@ -7,9 +7,6 @@
 #include <cstdint>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 struct LanguageInfo {
@@ -34,5 +31,3 @@ uint16_t LangIdOf(unsigned number);
 uint8_t NumberOfCode(std::string_view text);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -8,9 +8,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class Object;
@@ -71,5 +68,3 @@ std::string UniqueFileName(const char* extension = nullptr, const char* folder =
                            const char* prefix = nullptr);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

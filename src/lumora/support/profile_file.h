@@ -9,9 +9,6 @@
 #include <string_view>
 #include <vector>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class ProfileFile {
@@ -42,5 +39,3 @@ class ProfileFile {
 int32_t ParseProfileInt(std::string_view text);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

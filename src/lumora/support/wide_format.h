@@ -20,9 +20,6 @@
 #include <string>
 #include <string_view>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class FormatArg {
@@ -62,5 +59,3 @@ std::u16string FormatWide(std::u16string_view pattern, const Args&... args) {
 }
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -9,7 +9,6 @@
 #pragma once
 
 #include <lumora/platform/object.h>
-#include <lumora/support/wide_format.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -49,12 +48,6 @@ class WideText : public Object {
   void FromNarrow(std::string_view narrow, uint32_t codePage);
   // The whole text in the given code page, however many bytes that takes.
   std::string ToNarrow(uint32_t codePage) const;
-
-  // The text becomes the formatted template (see wide_format.h for conversions and limits).
-  template <typename... Args>
-  void Format(std::u16string_view pattern, const Args&... args) {
-    Assign(FormatWide(pattern, args...));
-  }
 
   // Unit by unit under simple Unicode case folding, so "Straße" and "STRASSE" differ but
   // "Ärger" and "ÄRGER" are equal; texts of different length are never equal.

@@ -12,9 +12,6 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // `add(index, resource, number)` files one loaded resource into the index. `result` is cleared
@@ -63,5 +60,3 @@ bool BuildUsageIndex(const std::string& resource_root, const std::string& index_
 }
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -5,9 +5,6 @@
 
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 // Type 8: groups and an 8-bit usage value, 1 when the resource has questions and a video.
@@ -49,5 +46,3 @@ bool BuildType13Index(const std::string& resource_root, const std::string& index
 bool BuildType15Index(const std::string& resource_root, const std::string& index_folder);
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

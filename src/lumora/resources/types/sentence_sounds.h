@@ -11,9 +11,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 template <typename SentenceList>
@@ -44,5 +41,3 @@ bool VerifySentenceSounds(const SentenceList& sentences, const std::string& root
 }
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -8,9 +8,6 @@
 
 #include <cstdint>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class Type1003Entry : public Object {
@@ -24,5 +21,3 @@ class Type1003Entry : public Object {
 using Type1003Index = NumberListIndex<Type1003Entry>;
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

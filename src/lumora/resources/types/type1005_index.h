@@ -7,9 +7,6 @@
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/index_forms.h>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class Type1005Entry : public Object {
@@ -34,5 +31,3 @@ class Type1005Entry : public Object {
 using Type1005Index = NumberListIndex<Type1005Entry>;
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

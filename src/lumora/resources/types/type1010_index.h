@@ -16,9 +16,6 @@
 #include <cstdint>
 #include <string>
 
-// The library's public surface: exported from the shared library.
-#pragma GCC visibility push(default)
-
 namespace lumora {
 
 class Type1010Index : public TypeIndex {
@@ -39,5 +36,3 @@ class Type1010Index : public TypeIndex {
 };
 
 }  // namespace lumora
-
-#pragma GCC visibility pop

@@ -7,7 +7,7 @@
 #pragma once
 
 #include <lumora/resources/exercise_resource.h>
-#include <lumora/resources/type2000_index.h>
+#include <lumora/resources/type2000_entry.h>
 
 #include <cstdint>
 #include <string>
