@@ -1,6 +1,5 @@
 // Feeds arbitrary bytes to the loaders of the container and string stored forms.
 #include <lumora/platform/archive.h>
-#include <lumora/platform/archive_string.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/platform/stream.h>
 #include <lumora/platform/typed_array.h>

@@ -2,7 +2,7 @@
 // the glossary, the grammar and the classification (in the order of lexicon_inputs.h), the rest
 // is the file. What was read is
 // looked up and stored again, so that a partly read table is also walked.
-#include <lumora/lexicon/class_records.h>
+#include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/glossary_records.h>
 #include <lumora/lexicon/grammar_records.h>
 #include <lumora/lexicon/set_file.h>

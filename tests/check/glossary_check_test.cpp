@@ -1,6 +1,6 @@
 #include <lumora/lexicon/glossary.h>
 #include <lumora/lexicon/glossary_rebuild.h>
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/notify.h>
 
 #include <gmock/gmock.h>

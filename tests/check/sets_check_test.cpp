@@ -1,7 +1,7 @@
-#include <lumora/lexicon/class_records.h>
+#include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/grammar_records.h>
 #include <lumora/lexicon/set_file.h>
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/profile.h>
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 
 #include <gtest/gtest.h>
 

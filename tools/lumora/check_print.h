@@ -4,7 +4,7 @@
 // The check of an export also says, for each finding, whether the source has it too.
 #pragma once
 
-#include <lumora/check/content_check.h>
+#include <lumora/maintenance.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,12 +1,9 @@
 #include "export_check.h"
 
-#include <lumora/support/paths.h>
-
 #include <cstdio>
 #include <map>
 #include <set>
 #include <tuple>
-
 
 namespace lumora::cli {
 namespace {
@@ -18,7 +15,7 @@ using FindingKey = std::tuple<std::string, std::string, std::string>;
 
 // `path` as the checks write it: relative to the content root when it lies below it.
 std::string AsChecksWrite(const std::string& root, const std::string& path) {
-  const std::string prefix = WithBackslash(root);
+  const std::string prefix = root.ends_with('/') ? root : root + '/';
   return path.size() > prefix.size() && path.compare(0, prefix.size(), prefix) == 0
              ? path.substr(prefix.size())
              : path;

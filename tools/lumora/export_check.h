@@ -11,8 +11,7 @@
 // them.
 #pragma once
 
-#include <lumora/check/content_check.h>
-#include <lumora/platform/typed_array.h>
+#include <lumora/maintenance.h>
 
 #include <cstdint>
 #include <string>

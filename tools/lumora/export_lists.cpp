@@ -21,10 +21,15 @@ using nlohmann::json;
 // Package identifiers are the keys of the list and are written to a 32-bit signed column: only
 // the values both hold read back as written.
 constexpr IntegerRange kPackageRange{0, INT32_MAX, "a package identifier"};
-constexpr IntegerRange kLanguageRange{0, kLanguageCount - 1, "a language number"};
 constexpr IntegerRange kTypeRange{0, INT32_MAX, "an exercise type"};
 constexpr IntegerRange kItemRange{0, UINT32_MAX, "a resource identifier"};
 constexpr size_t kProblemsShown = 20;
+
+// The numbers of the library's language table.
+IntegerRange LanguageRange() {
+  static const int64_t last = static_cast<int64_t>(LanguageTable().size()) - 1;
+  return {0, last, "a language number"};
+}
 
 bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
 
@@ -123,7 +128,7 @@ void ReadTranslations(const json& rows, TranslationList& translations, Problems&
                     problems);
     if (!entry.ok()) continue;
     const auto idString = entry.Integer("idString", kInt32Range);
-    const auto language = entry.Integer("language", kLanguageRange);
+    const auto language = entry.Integer("language", LanguageRange());
     const auto dataType = entry.Integer("dataType", kInt32Range, false);
     const auto text = entry.Text("text");
     if (!idString || !language || !text) continue;

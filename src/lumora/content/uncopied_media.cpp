@@ -20,9 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr uint32_t kUncopiedTypes[] = {Type19Resource::kType, Type21Resource::kType,
-                                       Type28Resource::kType, Type1003Resource::kType};
-
 // Copies below one export folder, each destination once: resources share media.
 class Copier {
  public:
@@ -119,11 +116,10 @@ void ForEachResourceFile(const fs::path& folder, const auto& visit) {
 
 }  // namespace
 
+// A class that verifies its media but has no copy of its own leaves them out of every export.
 bool IsUncopiedMediaType(uint32_t type) {
-  for (uint32_t t : kUncopiedTypes) {
-    if (t == type) return true;
-  }
-  return false;
+  const ExerciseType* row = FindExerciseType(type);
+  return row != nullptr && (row->media & kVerifiesMedia) != 0 && (row->media & kCopiesMedia) == 0;
 }
 
 UncopiedMediaCopy CopyUncopiedMedia(const std::string& sourceLocalRoot,
@@ -135,13 +131,14 @@ UncopiedMediaCopy CopyUncopiedMedia(const std::string& sourceLocalRoot,
        it.increment(error)) {
     const std::optional<uint32_t> course = CourseNumberOf(it->path().filename().string());
     if (!course) continue;
-    for (uint32_t type : kUncopiedTypes) {
-      ForEachResourceFile(it->path() / NumberedName('r', type),
-                          [&](const std::string& path, uint32_t number) {
-                            std::unique_ptr<ExerciseResource> resource = NewResource(type);
-                            if (!LoadArchiveFile(path, false, *resource)) return;
-                            CopyMediaOf(*resource, MakeResourceId(*course, number), quality, copier);
-                          });
+    for (uint32_t type : kExerciseTypes) {
+      if (!IsUncopiedMediaType(type)) continue;
+      ForEachResourceFile(
+          it->path() / NumberedName('r', type), [&](const std::string& path, uint32_t number) {
+            std::unique_ptr<ExerciseResource> resource = NewResource(type);
+            if (!LoadArchiveFile(path, false, *resource)) return;
+            CopyMediaOf(*resource, MakeResourceId(*course, number), quality, copier);
+          });
     }
   }
   const WriteStatus flushed = flush.Finish();

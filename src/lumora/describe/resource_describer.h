@@ -3,14 +3,13 @@
 #pragma once
 
 #include <lumora/describe/description.h>
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/language_texts.h>
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/object_list.h>
-#include <lumora/resources/text_list.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/support/wide_text.h>
 

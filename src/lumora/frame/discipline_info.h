@@ -2,7 +2,7 @@
 // every open discipline keeps. No stored form of its own.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 // fields in the order its set file stores them.
 #pragma once
 
-#include <lumora/lexicon/record_text.h>
+#include <lumora/lexicon/set_fields.h>
 #include <lumora/lexicon/small_list.h>
 #include <lumora/platform/archive.h>
 

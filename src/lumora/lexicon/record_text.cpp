@@ -1,4 +1,4 @@
-#include <lumora/lexicon/record_text.h>
+#include <lumora/lexicon/set_fields.h>
 
 #include <cstring>
 

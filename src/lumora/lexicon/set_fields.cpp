@@ -1,5 +1,5 @@
 #include <lumora/lexicon/set_fields.h>
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include <lumora/lexicon/set_file_check.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/ascii_text.h>
-#include <lumora/platform/coding.h>
 #include <lumora/support/folder_commit.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/paths.h>

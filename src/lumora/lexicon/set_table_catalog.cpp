@@ -1,4 +1,4 @@
-#include <lumora/lexicon/class_records.h>
+#include <lumora/lexicon/classification.h>
 #include <lumora/lexicon/glossary_records.h>
 #include <lumora/lexicon/grammar_records.h>
 #include <lumora/lexicon/set_table_catalog.h>

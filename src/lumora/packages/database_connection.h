@@ -5,12 +5,12 @@
 // for a value that cannot be converted (a NULL integer, say), and the caller decides.
 #pragma once
 
-#include <lumora/packages/calendar_time.h>
+#include <lumora/packages/package_records.h>
 #include <lumora/platform/ado/command.h>
 #include <lumora/platform/ado/connection.h>
 #include <lumora/platform/ado/error.h>
 #include <lumora/platform/ado/recordset.h>
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/support/wide_text.h>
 
 #include <cstdint>

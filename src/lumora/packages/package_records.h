@@ -3,14 +3,27 @@
 // are filled by the listing functions and owned by whoever made them.
 #pragma once
 
-#include <lumora/packages/calendar_time.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/keyed_table.h>
-#include <lumora/platform/object.h>
 #include <lumora/support/wide_text.h>
 
 #include <cstdint>
 #include <memory>
 #include <vector>
+
+// The dates of the package catalogue, as its records keep them.
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+// Seconds since 1 January 1970, in the 32 bits the package records keep.
+using CalendarTime = int32_t;
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
 
 // The library's public surface: exported from the shared library.
 #pragma GCC visibility push(default)

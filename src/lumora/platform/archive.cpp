@@ -1,5 +1,4 @@
 #include <lumora/platform/archive.h>
-#include <lumora/platform/coding.h>
 #include <lumora/platform/stream.h>
 
 #include <algorithm>

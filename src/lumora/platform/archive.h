@@ -2,15 +2,73 @@
 // the library is written and read through one Serialize per class that calls the same
 // sequence of operations in both modes. Errors are thrown as ArchiveError and caught where a
 // whole file is loaded or stored.
+//
+// Beside it: the root class of every stored object, the fixed-width byte coding of our files and
+// the stored forms of strings.
 #pragma once
-
-#include <lumora/platform/coding.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
 #include <string>
+#include <vector>
+
+// Root of every persistent class: a class name for diagnostics, a virtual destructor and one
+// Serialize that both stores and loads the same field sequence.
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+class Archive;
+
+class Object {
+ public:
+  virtual ~Object() = default;
+  virtual const char* ClassName() const { return "Object"; }
+  virtual void Serialize(Archive& ar) { (void)ar; }
+
+ protected:
+  Object() = default;
+  Object(const Object&) = default;
+  Object& operator=(const Object&) = default;
+};
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
+
+// Fixed-width little-endian values: the only place that knows the byte order of our files.
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+inline void EncodeU16(uint8_t* p, uint16_t v) {
+  p[0] = static_cast<uint8_t>(v);
+  p[1] = static_cast<uint8_t>(v >> 8);
+}
+
+inline void EncodeU32(uint8_t* p, uint32_t v) {
+  p[0] = static_cast<uint8_t>(v);
+  p[1] = static_cast<uint8_t>(v >> 8);
+  p[2] = static_cast<uint8_t>(v >> 16);
+  p[3] = static_cast<uint8_t>(v >> 24);
+}
+
+inline uint16_t DecodeU16(const uint8_t* p) { return static_cast<uint16_t>(p[0] | (p[1] << 8)); }
+
+inline uint32_t DecodeU32(const uint8_t* p) {
+  return static_cast<uint32_t>(p[0]) | (static_cast<uint32_t>(p[1]) << 8) |
+         (static_cast<uint32_t>(p[2]) << 16) | (static_cast<uint32_t>(p[3]) << 24);
+}
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
 
 namespace lumora {
 // Declared before the public region: the streams stay the library's own (hidden), whichever of
@@ -124,6 +182,35 @@ class Archive {
   size_t begin_ = 0;     // next unread byte (load)
   size_t end_ = 0;       // end of valid bytes (load) or of buffered bytes (store)
   uint64_t filled_ = 0;  // bytes taken from the stream into the buffer (load)
+};
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
+
+// The framework's narrow string and string-array stored forms.
+//
+// A string is its length followed by its bytes. The length takes one byte below 0xFF; else
+// 0xFF and a u16 below 0xFFFE; else 0xFF, 0xFFFF and a u32. A string array is its count as a
+// u16 below 0xFFFF, else 0xFFFF and a u32, followed by that many strings.
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+class Archive;
+
+std::string ReadArchiveString(Archive& ar);
+void WriteArchiveString(Archive& ar, const std::string& text);
+void IoArchiveString(Archive& ar, std::string& text);
+
+class StringArray : public Object {
+ public:
+  std::vector<std::string> items;
+
+  const char* ClassName() const override { return "StringArray"; }
+  void Serialize(Archive& ar) override;
 };
 
 }  // namespace lumora

@@ -1,5 +1,4 @@
 #include <lumora/platform/archive.h>
-#include <lumora/platform/archive_string.h>
 
 namespace lumora {
 

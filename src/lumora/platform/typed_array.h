@@ -3,8 +3,6 @@
 #pragma once
 
 #include <lumora/platform/archive.h>
-#include <lumora/platform/coding.h>
-#include <lumora/platform/object.h>
 
 #include <algorithm>
 #include <array>

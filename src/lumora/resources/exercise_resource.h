@@ -6,7 +6,7 @@
 // RecordArray16 of link records; every class but type 1005 then writes its u32 type tag.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/content_request.h>
 

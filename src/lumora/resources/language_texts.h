@@ -4,7 +4,7 @@
 // by `count` CodePageText records (u16 code page, u32 length, UTF-16 units).
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/support/wide_text.h>
 

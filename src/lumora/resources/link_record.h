@@ -3,7 +3,7 @@
 // target resource number at 12. Bytes 2 to 7 belong to the authoring tool.
 #pragma once
 
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 
 #include <cstdint>

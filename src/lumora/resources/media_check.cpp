@@ -1,4 +1,4 @@
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/resource_files.h>

@@ -4,7 +4,7 @@
 // root. Stored form: u8 kind, u16 folder, u32 resource (7 bytes); the path is not stored.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 
 #include <cstdint>
 #include <string>

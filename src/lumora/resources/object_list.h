@@ -1,8 +1,10 @@
 // A list of owned objects stored as a u32 count followed by every element's own stored form.
-// Loading destroys the old elements first, then creates and reads `count` new ones.
+// Loading destroys the old elements first, then creates and reads `count` new ones. The list of
+// marked texts, the most common of them, is defined here too.
 #pragma once
 
 #include <lumora/platform/archive.h>
+#include <lumora/resources/marked_text.h>
 
 #include <cstdint>
 #include <memory>
@@ -45,6 +47,20 @@ class ObjectList {
  private:
   Items items_;
 };
+
+}  // namespace lumora
+
+#pragma GCC visibility pop
+
+// The text list of many exercise types: marked texts in the object-list form (u32 count, then
+// each text's own stored form).
+
+// The library's public surface: exported from the shared library.
+#pragma GCC visibility push(default)
+
+namespace lumora {
+
+using TextList = ObjectList<MarkedText>;
 
 }  // namespace lumora
 

@@ -1,5 +1,5 @@
 #include <lumora/platform/archive.h>
-#include <lumora/platform/key_search.h>
+#include <lumora/platform/keyed_table.h>
 #include <lumora/resources/resource_groups.h>
 
 namespace lumora {

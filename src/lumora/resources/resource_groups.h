@@ -4,7 +4,7 @@
 // keys as a ByteArray followed by g DWordArrays of resource numbers, in key-array order.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 #include <lumora/platform/archive.h>
-#include <lumora/platform/archive_string.h>
 #include <lumora/resources/text_context.h>
 
 namespace lumora {

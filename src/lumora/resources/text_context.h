@@ -4,7 +4,7 @@
 // is not stored.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/context_code.h>
 
 #include <cstdint>

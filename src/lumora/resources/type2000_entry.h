@@ -4,7 +4,7 @@
 // Stored form: u8 attribute, LanguageTexts, MediaRef (7 bytes).
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/language_texts.h>
 #include <lumora/resources/media_ref.h>
 

@@ -2,7 +2,7 @@
 // form its file takes; the base loads nothing and flags every resource.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include <lumora/sample/sample_package.h>
 
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/resource_id.h>
 #include <lumora/resources/types/type2000.h>
 #include <lumora/resources/types/type40.h>

@@ -1,6 +1,6 @@
 // Exercises around pictures. Picture n of a type is "p%07d.swf" in the type's own folder; the
 // quality folders each type's verification expects are filled, except for one deliberate gap.
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/types/type1006.h>
 #include <lumora/resources/types/type1010.h>
 #include <lumora/resources/types/type14.h>

@@ -2,10 +2,10 @@
 // course's Western code page.
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/language_texts.h>
 #include <lumora/resources/marked_text.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 // Videos and what builds on them. Video n (type 1003) has its script, its movie in Q3 and a
 // picture in every quality folder, where the questions of type 8 look for them; types 10 and
 // 21 carry media of their own.
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/link_record.h>
 #include <lumora/resources/types/type10.h>
 #include <lumora/resources/types/type1003.h>

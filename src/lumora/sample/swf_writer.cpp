@@ -1,6 +1,6 @@
 #include <lumora/sample/swf_writer.h>
 
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 
 #include <algorithm>
 

@@ -7,8 +7,8 @@
 // the library alone every report returns at once and nothing is written.
 #pragma once
 
+#include <lumora/platform/archive.h>
 #include <lumora/platform/keyed_table.h>
-#include <lumora/platform/object.h>
 
 #include <chrono>
 #include <cstdint>

@@ -2,7 +2,6 @@
 #include <lumora/platform/atomic_write.h>
 #include <lumora/platform/file.h>
 #include <lumora/platform/kept_files.h>
-#include <lumora/platform/object.h>
 #include <lumora/platform/stream.h>
 #include <lumora/support/paths.h>
 

@@ -1,6 +1,5 @@
 #include <lumora/platform/archive.h>
 #include <lumora/platform/codepage.h>
-#include <lumora/platform/coding.h>
 #include <lumora/support/wide_text.h>
 
 #include <unicode/uchar.h>

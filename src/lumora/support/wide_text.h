@@ -8,7 +8,7 @@
 // Stored form: a u32 count of UTF-16 units, then the units little-endian, no terminator.
 #pragma once
 
-#include <lumora/platform/object.h>
+#include <lumora/platform/archive.h>
 
 #include <cstddef>
 #include <cstdint>

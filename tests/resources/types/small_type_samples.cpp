@@ -1,6 +1,6 @@
 #include "resources/types/small_type_samples.h"
 
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/resource_id.h>
 
 namespace lumora::testing {

@@ -5,7 +5,7 @@
 
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/marked_text.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 #include <lumora/resources/types/type1.h>
 #include <lumora/resources/types/type12.h>
 #include <lumora/resources/types/type13.h>

@@ -1,6 +1,6 @@
 #include "resources/types/video_type_builders.h"
 
-#include <lumora/platform/coding.h>
+#include <lumora/platform/archive.h>
 
 #include <memory>
 

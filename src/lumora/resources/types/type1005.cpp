@@ -1,5 +1,4 @@
 #include <lumora/platform/archive.h>
-#include <lumora/platform/archive_string.h>
 #include <lumora/resources/media_check.h>
 #include <lumora/resources/media_copy.h>
 #include <lumora/resources/report_format.h>

@@ -7,7 +7,7 @@
 // followed by its medium (MediaRef).
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/keyed_table.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_ref.h>

@@ -10,7 +10,7 @@
 #include <lumora/resources/language_texts.h>
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/media_ref.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 
 #include <array>
 #include <cstdint>

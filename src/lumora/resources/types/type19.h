@@ -6,7 +6,7 @@
 // (DWordArray of position ids), names (string list).
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/platform/typed_array.h>
 #include <lumora/resources/exercise_resource.h>
 

@@ -4,7 +4,7 @@
 // words (string array).
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/marked_text.h>
 

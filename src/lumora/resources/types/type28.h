@@ -8,7 +8,6 @@
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/object_list.h>
-#include <lumora/resources/text_list.h>
 
 #include <cstdint>
 #include <string>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <lumora/resources/exercise_resource.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 
 #include <cstdint>
 

@@ -9,7 +9,6 @@
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_ref.h>
 #include <lumora/resources/object_list.h>
-#include <lumora/resources/text_list.h>
 #include <lumora/support/wide_text.h>
 
 #include <cstdint>

@@ -4,10 +4,10 @@
 // choices (text list), the words (string array). `transientText` lives in memory only.
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/marked_text.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 
 #include <cstdint>
 #include <string>

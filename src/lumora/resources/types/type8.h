@@ -11,7 +11,6 @@
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/marked_text.h>
 #include <lumora/resources/object_list.h>
-#include <lumora/resources/text_list.h>
 
 #include <cstdint>
 #include <string>

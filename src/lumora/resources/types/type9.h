@@ -5,10 +5,10 @@
 // (string list), media (MediaRef).
 #pragma once
 
-#include <lumora/platform/archive_string.h>
+#include <lumora/platform/archive.h>
 #include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/media_ref.h>
-#include <lumora/resources/text_list.h>
+#include <lumora/resources/object_list.h>
 
 #include <cstdint>
 #include <string>
