@@ -68,7 +68,7 @@ TEST_F(ConcurrentReads, ReadsRunTogetherWhileOpensAndClosesWaitForThem) {
       }
     });
   }
-  for (int round = 0; round < 5; ++round) {
+  for (int round = 0; round < 20; ++round) {
     std::shared_ptr<ContentRoot> old = take();
     old->Close();
     std::shared_ptr<ContentRoot> reopened = ContentRoot::Open(root(), {}, &status);

@@ -2,6 +2,7 @@
 // a caught error is recorded.
 #include <lumora/packages/database_connection.h>
 #include <lumora/platform/com_apartment.h>
+#include <lumora/platform/held_retry.h>
 #include <lumora/support/internal_log.h>
 
 #include <gtest/gtest.h>
@@ -168,9 +169,11 @@ TEST_F(DatabaseConnectionTest, FilesThatCannotServeFailTheOpen) {
   EXPECT_FALSE(OpenDb(db));
   EXPECT_FALSE(std::filesystem::exists(file));
 
-  // A file another connection holds exclusively.
+  // A file another connection holds exclusively: waited for (briefly here), then refused.
   dir.Write("Content.mdb", "");
   {
+    const ShareFileSettings saved = ShareFileRetrySettings();
+    ShareFileRetrySettings() = {2, 50, 5};
     ado::Connection locker;
     locker.Open("DBQ=" + file, "", "", ado::kOptionUnspecified);
     locker.Execute(u"BEGIN EXCLUSIVE", ado::kExecuteNoRecords);
@@ -178,6 +181,7 @@ TEST_F(DatabaseConnectionTest, FilesThatCannotServeFailTheOpen) {
     EXPECT_FALSE(OpenDb(db));
     EXPECT_EQ(db.lastError, DatabaseConnection::kDatabaseError);
     EXPECT_EQ(db.errorText, "[ADODB.Connection] [database is locked] {Unspecified error}");
+    ShareFileRetrySettings() = saved;
   }
 
   // Without an apartment the connection object cannot be made: reported, lastError untouched.

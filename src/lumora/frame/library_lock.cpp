@@ -2,9 +2,9 @@
 
 namespace lumora {
 
-std::shared_mutex& LibraryMutex() {
-  static std::shared_mutex mutex;
-  return mutex;
+LibraryLock& LibraryMutex() {
+  static LibraryLock lock;
+  return lock;
 }
 
 }  // namespace lumora
