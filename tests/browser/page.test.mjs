@@ -11,6 +11,8 @@ import { startServer, writeContent } from "./lumora_server.mjs";
 
 const TIMEOUT = { timeout: 60000 };
 const MARKUP = "<img src=x onerror=alert(1)>";
+// Large enough that the sample's pictures (type 1005, 8 per unit of scale) fill two pages.
+const SCALE = 4;
 // The title of the sample's first dictation, which the tests replace by MARKUP.
 const TITLE = { file: "D001/C0001/r0000005/r0000001.ars", text: "Dictado" };
 
@@ -51,7 +53,7 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
   let browser;
 
   before(async () => {
-    content = await writeContent(1);
+    content = await writeContent(SCALE);
     await replaceText(join(content.root, TITLE.file), TITLE.text, MARKUP);
     server = await startServer(content.root);
     browser = await launchBrowser();
@@ -147,8 +149,45 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
     await input.pressSequentially("cafe", { delay: 40 });
     await page.getByRole("button", { name: /café/ }).first().waitFor();
     assert.match(page.url(), /\/d\/1\/glossary\?q=cafe$/);
+    // The mark a measurement waits for names the query whose results are shown.
+    const marked = await page.evaluate(() => performance.getEntriesByName("lumora:glossary-results")
+      .map((m) => m.detail?.query));
+    assert.equal(marked.at(-1), "cafe");
     // Its translations come with it.
     await page.locator(".word-details li").first().waitFor();
+    assert.deepEqual(errors, []);
+  });
+
+  test("a type is paged: each page asks only for its own resources", TIMEOUT, async () => {
+    const { page, errors } = await browser.open(server.baseUrl, "/");
+    await page.locator("main a").first().waitFor();
+    const asked = { ids: 0, resources: [] };
+    page.on("request", (r) => {
+      const path = new URL(r.url()).pathname;
+      if (path.startsWith("/page/ids/")) ++asked.ids;
+      if (path.startsWith("/api/d/1/resource/")) asked.resources.push(path);
+    });
+    // Marks the page sets once a view shows and once its rows are filled.
+    const marked = (name) => page.evaluate((n) => performance.getEntriesByName(n).length, name);
+    await page.evaluate(() => performance.clearMarks());
+    await page.evaluate(() => document.querySelector(`a[href="/d/1"]`).click());
+    await page.getByRole("link", { name: "Elements (type 1005)" }).click();
+    await page.waitForURL(/\/d\/1\/type\/1005$/);
+    await eventually(async () => (await marked("lumora:summaries-shown")) === 1);
+    assert.equal(await marked("lumora:view-shown"), 2);
+    const firstPage = await page.locator("ol.resources > li a").allTextContents();
+    assert.equal(firstPage.length, 25);
+    assert.deepEqual(asked.resources.map((p) => p.split("/").at(-1)),
+      firstPage.map((id) => String(Number(id))));
+
+    asked.resources = [];
+    await page.getByRole("link", { name: "Next →" }).click();
+    await page.waitForURL(/\/d\/1\/type\/1005\?page=2$/);
+    await eventually(async () => (await marked("lumora:summaries-shown")) === 2);
+    const secondPage = await page.locator("ol.resources > li a").allTextContents();
+    assert.ok(secondPage.length > 0 && secondPage[0] !== firstPage[0]);
+    assert.equal(asked.resources.length, secondPage.length);
+    assert.equal(asked.ids, 1, "the ids of a type are asked for once");
     assert.deepEqual(errors, []);
   });
 

@@ -34,7 +34,9 @@ export async function showGlossary(view) {
       const letters = await api.find(d, text, controller.signal);
       if (!view.current() || controller.signal.aborted) return;
       results.replaceChildren(...found(d, letters, controller.signal, features));
-      performance.mark("lumora:glossary-results");
+      // Names the query whose results are now shown, so that a measurement can tell them from
+      // the answer to an earlier one.
+      performance.mark("lumora:glossary-results", { detail: { query: text } });
     } catch (error) {
       if (error.name !== "AbortError" && view.current()) {
         results.replaceChildren(problem(error.message));

@@ -31,6 +31,7 @@ export async function showType(view) {
       if (view.current()) row.append(" ", el("span", { class: "problem" }, error.message));
     }
   }));
+  if (view.current()) performance.mark("lumora:summaries-shown");
 }
 
 function pager(base, page, pages) {
