@@ -1,12 +1,18 @@
 // The page of `lumora serve` in a browser, over the sample: every view at its own address, the
-// media in place, the glossary searched while typing, the check, the keyboard, and content that
-// looks like markup shown as text.
+// media in place, the glossary searched while typing, a type paged without asking for all its
+// resources, the check, the keyboard, and content that looks like markup shown as text.
 import { after, before, describe, test } from "node:test";
 import assert from "node:assert/strict";
-import { readFile, writeFile } from "node:fs/promises";
+import { readdir, readFile, writeFile } from "node:fs/promises";
 import { join } from "node:path";
 import { audioHeard, audioProbe } from "./audio_probe.mjs";
-import { colourShares, eventually, launchBrowser, skipUnlessReady } from "./browser.mjs";
+import {
+  SOURCE_DIR,
+  colourShares,
+  eventually,
+  launchBrowser,
+  skipUnlessReady,
+} from "./browser.mjs";
 import { startServer, writeContent } from "./lumora_server.mjs";
 
 const TIMEOUT = { timeout: 60000 };
@@ -46,6 +52,18 @@ async function findResource(baseUrl, wanted) {
   }
   throw new Error("the sample has no such medium");
 }
+
+// Each level of imports would otherwise wait for the one above it: a module missing from the
+// list still works, only slower, so nothing else would notice.
+test("the page asks for all its modules at once", async () => {
+  const folder = join(SOURCE_DIR, "web", "page");
+  const modules = (await readdir(folder, { recursive: true }))
+    .filter((file) => file.endsWith(".js") && file !== "app.js");
+  const html = await readFile(join(folder, "index.html"), "utf8");
+  const preloaded = [...html.matchAll(/<link rel="modulepreload" href="\/page\/([^"]+)">/g)]
+    .map((match) => match[1]);
+  assert.deepEqual(preloaded.sort(), modules.sort());
+});
 
 describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
   let content;
