@@ -14,6 +14,7 @@
 #include <lumora/lumora.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,8 @@ enum class StatusCode {
   kUnreadable,       // a file that is there could not be read: `file`, `byte` and `reason` say why
   kInvalidArgument,  // a value outside its range
   kBusy,             // another content root is open in this process
+  kUnwritable,       // a file or folder could not be written: `reason` says which and why
+  kStopped,          // the host's progress function asked the work to stop
 };
 
 // The one result of the face: what went wrong and where, or nothing.
@@ -73,6 +76,35 @@ struct ResourceOptions {
   uint8_t order = 1;             // quality folder order 1, 2 or 3
   bool media = true;             // resolve the media paths
 };
+
+// Progress of a long operation: `done` of `total` steps. Answering false asks the operation to
+// stop at its next step; it then answers StatusCode::kStopped. Called on the working threads.
+using ProgressFunction = std::function<bool(uint64_t done, uint64_t total)>;
+
+struct CheckRequest {
+  uint32_t discipline = 0;          // 0: every discipline of Content.ini
+  std::vector<std::string> checks;  // empty: every check, in the order they run
+  std::vector<uint8_t> quality;     // media quality folders 1 to 3; empty: all three
+  bool fixCase = false;  // rename names whose only difference from the expected one is case
+};
+
+// `lumora check --json`: {"ok", "checks": [{"name", "checked", "errors", "warnings",
+// "findings"}]}. A check that finds errors is an answer (ok false in the document, status ok).
+// kNotFound without Content.ini, kInvalidArgument for an unknown check or quality folder.
+// Needs no open ContentRoot and leaves the open one alone.
+Answer CheckContent(const std::string& root, const CheckRequest& request,
+                    const ProgressFunction& progress = {});
+
+struct ExportRequest {
+  std::vector<uint32_t> packages;  // from the discipline's database
+  std::vector<uint8_t> quality;    // media quality folders 1 to 3; empty: all three
+  std::string destination;         // a content root of its own once written
+};
+
+// Writes the sample content root into `dir` with `scale` units per discipline (1 to
+// sample::kMaxScale); kInvalidArgument for a scale out of range, kUnwritable when it cannot be
+// written.
+Status WriteSample(const std::string& dir, int scale);
 
 class ContentRoot {
  public:
@@ -129,6 +161,13 @@ class ContentRoot {
   Answer Classification() const;
   // `lumora packages --json` (the root must be opened with databases).
   Answer Packages(uint32_t discipline) const;
+  // `lumora export --json`: {"ok", "exportFolder", "report", "resources", "filesCopied",
+  // "bytesCopied"}. Prepares the destination as the tool does (its folder, an empty database and,
+  // when it has none, a Content.ini for the exported discipline), then exports. An export that
+  // reports problems is an answer (ok false, status ok); a destination that cannot be prepared
+  // is kInvalidArgument, kUnreadable or kUnwritable. Holds the library lock alone while it runs.
+  Answer Export(uint32_t discipline, const ExportRequest& request,
+                const ProgressFunction& progress = {}) const;
 
   // `lumora check --json`: every check of the root, over every discipline or only `discipline`
   // (0: all). Findings are part of the document ("ok" false when one is an error), not a

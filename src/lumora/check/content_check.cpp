@@ -102,6 +102,7 @@ std::vector<CheckReport> CheckContentRoot(const std::string& contentRoot,
     for (size_t i = 0; i < chosen.size(); ++i) {
       if (chosen[i]->lane != lane) continue;
       reports[i].name = chosen[i]->name;
+      if (options.progress != nullptr && options.progress->StopRequested()) continue;
       chosen[i]->run(root, reports[i]);
       if (chosen[i]->steps == Steps::kOne) root.StepsDone(1);
     }

@@ -1,9 +1,11 @@
-// The integrity check of the open root through the content face, and its document.
+// The integrity check of a content root through the content face, and its document.
 #include <lumora/content.h>
 #include <lumora/content/content_answers.h>
+#include <lumora/content/host_progress.h>
 #include <lumora/describe/printable_text.h>
 #include <lumora/frame/library_lock.h>
 
+#include <filesystem>
 #include <mutex>
 
 namespace lumora {
@@ -37,6 +39,26 @@ std::mutex& CheckMutex() {
   return mutex;
 }
 
+Status Validate(const std::string& root, const CheckRequest& request, CheckOptions* options) {
+  for (const std::string& name : request.checks) {
+    if (IsCheckName(name)) continue;
+    std::string known;
+    for (const std::string& n : CheckNames()) known += (known.empty() ? "" : ", ") + n;
+    return Failure(StatusCode::kInvalidArgument,
+                   "no check named \"" + name + "\" (the checks: " + known + ")");
+  }
+  if (Status quality = QualityFolders(request.quality, &options->qualityFolders); !quality.ok())
+    return quality;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(std::filesystem::path(root) / "Content.ini", error)) {
+    return NotFound("no Content.ini in " + root);
+  }
+  options->disciplineFilter = request.discipline;
+  options->checks = request.checks;
+  options->fixCase = request.fixCase;
+  return Status();
+}
+
 }  // namespace
 
 Description DescribeCheck(const std::vector<CheckReport>& reports) {
@@ -47,6 +69,21 @@ Description DescribeCheck(const std::vector<CheckReport>& reports) {
     checks.push_back(ReportDocument(r));
   }
   return {{"ok", errors == 0}, {"checks", std::move(checks)}};
+}
+
+Answer CheckContent(const std::string& root, const CheckRequest& request,
+                    const ProgressFunction& progress) {
+  CheckOptions options;
+  if (Status invalid = Validate(root, request, &options); !invalid.ok())
+    return Failed(std::move(invalid));
+  const HostProgress host(progress);
+  options.progress = host.progress();
+  std::lock_guard one_check(CheckMutex());
+  Description document = DescribeCheck(CheckContentRoot(root, options));
+  if (host.stopped()) {
+    return {Failure(StatusCode::kStopped, "the check was stopped"), std::move(document)};
+  }
+  return Found(std::move(document));
 }
 
 Answer ContentRoot::Check(uint32_t discipline) const {

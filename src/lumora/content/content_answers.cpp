@@ -5,12 +5,14 @@
 
 namespace lumora {
 
-Status NotFound(std::string reason) {
+Status Failure(StatusCode code, std::string reason) {
   Status status;
-  status.code = StatusCode::kNotFound;
+  status.code = code;
   status.reason = std::move(reason);
   return status;
 }
+
+Status NotFound(std::string reason) { return Failure(StatusCode::kNotFound, std::move(reason)); }
 
 Status Unreadable(const std::string& root, const LoadFailure& failure) {
   Status status;
@@ -41,6 +43,20 @@ std::optional<ContentRequest> RequestFor(uint32_t id, uint32_t pathKind, uint8_t
 
 Status NoDiscipline(uint32_t id) {
   return NotFound("no open discipline with identifier " + std::to_string(id));
+}
+
+Status QualityFolders(const std::vector<uint8_t>& quality, ByteArray* folders) {
+  for (uint8_t folder : quality) {
+    if (folder < 1 || folder > 3) {
+      return Failure(StatusCode::kInvalidArgument,
+                     "quality folders are 1, 2 or 3: " + std::to_string(folder));
+    }
+    folders->Add(folder);
+  }
+  if (quality.empty()) {
+    for (uint8_t folder = 1; folder <= 3; ++folder) folders->Add(folder);
+  }
+  return Status();
 }
 
 }  // namespace lumora

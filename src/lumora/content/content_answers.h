@@ -8,11 +8,13 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lumora {
 
 struct OpenedDiscipline;
 
+Status Failure(StatusCode code, std::string reason);
 Status NotFound(std::string reason);
 // A load failure, its file relative to `root` when it lies below it.
 Status Unreadable(const std::string& root, const LoadFailure& failure);
@@ -26,5 +28,8 @@ Status NoDiscipline(uint32_t id);
 
 // A registered discipline as the face gives it, with the types its index lists.
 DisciplineSummary SummaryOf(const OpenedDiscipline& discipline);
+// The media quality folders of a check or export request: each 1, 2 or 3, all three when none
+// is given; kInvalidArgument for another number.
+Status QualityFolders(const std::vector<uint8_t>& quality, ByteArray* folders);
 
 }  // namespace lumora

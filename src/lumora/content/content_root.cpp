@@ -14,13 +14,6 @@ namespace {
 // Whether a ContentRoot is open; guarded by the library lock.
 bool root_open = false;
 
-Status Failure(StatusCode code, std::string reason) {
-  Status status;
-  status.code = code;
-  status.reason = std::move(reason);
-  return status;
-}
-
 }  // namespace
 
 std::unique_ptr<ContentRoot> ContentRoot::Open(const std::string& root, const OpenOptions& options,

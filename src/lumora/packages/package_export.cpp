@@ -61,8 +61,8 @@ void ExportClassification(Classification& classification, const std::string& roo
 }
 
 // Adds the resource rows and copies their files with their media, every fifth row's position
-// sent to `bar`. False when a row cannot be added: the export stops there, after what the
-// copies made so far have to say.
+// sent to `bar`. False when a row cannot be added or the host asks to stop: the export stops
+// there, after what the copies made so far have to say.
 bool CopyResources(const PackageResourceList& resources, const ExportSource& source,
                    const std::string& exportFolder, const ByteArray& qualityFolders,
                    const Progress& bar, ExportRows& rows, std::set<uint32_t>& referencedIds,
@@ -70,6 +70,11 @@ bool CopyResources(const PackageResourceList& resources, const ExportSource& sou
   CopyQueue copies(report);
   ExportResourceCopier copier(source.localRoot, exportFolder, qualityFolders, copies);
   for (uint32_t i = 0; i < resources.size(); ++i) {
+    if (bar.StopRequested()) {
+      copies.Finish();
+      report += "The export was stopped before its end.\n";
+      return false;
+    }
     const PackageResourceRecord& row = *resources.ObjectAt(i);
     const size_t said = report.size();
     if (!rows.AddPackageResource(resources.KeyAt(i), row.idResource, row.idItem)) {

@@ -23,10 +23,14 @@ class Progress {
   void SetPosition(uint32_t position) const {
     if (onPosition) onPosition(position);
   }
+  // Whether the host asked the operation to stop; an operation that can stop asks between its
+  // steps and reports that it stopped.
+  bool StopRequested() const { return onStopRequested && onStopRequested(); }
 
-  // Either may be empty.
+  // Any may be empty.
   std::function<void(uint32_t maximum)> onRange;
   std::function<void(uint32_t position)> onPosition;
+  std::function<bool()> onStopRequested;
 };
 
 }  // namespace lumora

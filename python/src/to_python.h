@@ -1,0 +1,16 @@
+// The library's documents as plain Python values: dict, list, int, float, str, bool and None,
+// the values json.loads gives for the same document printed by the tool.
+#pragma once
+
+#include <lumora/content.h>
+#include <pybind11/pybind11.h>
+
+#include <string_view>
+
+namespace lumora::python {
+
+pybind11::object ToPython(const Description& document);
+// Narrow text of the content (code page 1252), as the tool prints it.
+pybind11::str FromWindowsAnsi(std::string_view text);
+
+}  // namespace lumora::python
