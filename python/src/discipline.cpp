@@ -81,8 +81,8 @@ void RegisterDiscipline(py::module_& module) {
       .def_property_readonly("id", [](const Discipline& d) { return d.Live().id; })
       .def_property_readonly("language", [](const Discipline& d) { return d.Live().language; })
       .def_property_readonly("types", [](const Discipline& d) { return d.Live().types; })
-      .def_property_readonly("local_root",
-                             [](const Discipline& d) { return FromWindowsAnsi(d.Live().localRoot); })
+      .def_property_readonly(
+          "local_root", [](const Discipline& d) { return FromWindowsAnsi(d.Live().localRoot); })
       .def_property_readonly("url_root",
                              [](const Discipline& d) { return FromWindowsAnsi(d.Live().urlRoot); })
       .def_property_readonly("unc_root",

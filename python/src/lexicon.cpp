@@ -49,8 +49,8 @@ void RegisterGlossary(py::module_& module) {
           },
           py::arg("fn_id"), py::arg("path_kind") = "local", py::arg("quality") = 1)
       .def("letters", [](const Glossary& g) {
-        return Answered(g,
-                        [&](const ContentRoot& root) { return root.GlossaryLetters(g.discipline); });
+        return Answered(
+            g, [&](const ContentRoot& root) { return root.GlossaryLetters(g.discipline); });
       });
 }
 
@@ -60,8 +60,9 @@ void RegisterGrammar(py::module_& module) {
           "point",
           [](const Grammar& g, int64_t point) {
             const uint32_t number = Unsigned32(point, "point");
-            return Answered(
-                g, [&](const ContentRoot& root) { return root.GrammarPoint(g.discipline, number); });
+            return Answered(g, [&](const ContentRoot& root) {
+              return root.GrammarPoint(g.discipline, number);
+            });
           },
           py::arg("point"))
       .def(

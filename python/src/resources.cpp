@@ -85,8 +85,8 @@ void ReadAll(std::vector<ResourceHandle>& handles) {
   const py::gil_scoped_release release;
   for (ResourceHandle& handle : handles) {
     if (!handle.read) {
-      handle.read = handle.state->root->Resource(handle.discipline, handle.type, handle.id,
-                                                  handle.options);
+      handle.read =
+          handle.state->root->Resource(handle.discipline, handle.type, handle.id, handle.options);
     }
   }
 }
@@ -110,8 +110,9 @@ void RegisterResources(py::module_& module) {
                              [](const ResourceHandle& r) { return r.state->Live(), r.discipline; })
       .def_property_readonly("course", [](ResourceHandle& r) { return Field(r, "course"); })
       .def_property_readonly("number", [](ResourceHandle& r) { return Field(r, "number"); })
-      .def("to_dict", [](ResourceHandle& r) { return ToPython(r.Document()); },
-           "The resource as `lumora resource ... --json` prints it.")
+      .def(
+          "to_dict", [](ResourceHandle& r) { return ToPython(r.Document()); },
+          "The resource as `lumora resource ... --json` prints it.")
       .def("__repr__", [](const ResourceHandle& r) {
         return "<lumora.Resource discipline " + std::to_string(r.discipline) + " type " +
                std::to_string(r.type) + " id " + std::to_string(r.id) + ">";

@@ -76,7 +76,9 @@ void RegisterRoot(py::module_& module) {
       .def_property_readonly("disciplines", &Disciplines)
       .def("discipline", &DisciplineOf, py::arg("id"))
       .def("classification",
-           [](const Root& r) { return ToPython(r.state->Document(r.state->Live().Classification())); })
+           [](const Root& r) {
+             return ToPython(r.state->Document(r.state->Live().Classification()));
+           })
       .def("close", &Close)
       .def("__enter__", [](py::object self) { return self; })
       .def("__exit__", [](const Root& r, const py::args&) { Close(r); })
