@@ -27,7 +27,18 @@ class ResourceIterator {
 
   ResourceHandle Next() {
     state_->Live();
-    if (next_ == batch_.size()) Fill();
+    // Another thread's Next reads the batch without the interpreter: the batch is its alone.
+    if (filling_) throw py::value_error("the iterator is already reading in another thread");
+    if (next_ == batch_.size()) {
+      filling_ = true;
+      try {
+        Fill();
+      } catch (...) {
+        filling_ = false;
+        throw;
+      }
+      filling_ = false;
+    }
     if (next_ == batch_.size()) throw py::stop_iteration();
     return std::move(batch_[next_++]);
   }
@@ -60,6 +71,7 @@ class ResourceIterator {
   size_t position_ = 0;
   std::vector<ResourceHandle> batch_;
   size_t next_ = 0;
+  bool filling_ = false;
 };
 
 py::object Field(ResourceHandle& handle, const char* key) {
