@@ -1,8 +1,9 @@
-from typing import Any, Callable, Iterable, Iterator, Optional, Sequence
+from typing import Any, Callable, Iterable, Iterator, Optional, Sequence, Union
 
 __version__: str
 
-Document = dict[str, Any]
+# A document as `lumora ... --json` prints it: an object or, for lists, an array.
+Document = Union[dict[str, Any], list[Any]]
 Progress = Callable[[int, int], object]
 
 class Error(Exception):
@@ -24,7 +25,7 @@ class Resource:
     def course(self) -> int: ...
     @property
     def number(self) -> int: ...
-    def to_dict(self) -> Document: ...
+    def to_dict(self) -> dict[str, Any]: ...
 
 class ResourceIterator(Iterator[Resource]):
     def __iter__(self) -> ResourceIterator: ...
