@@ -47,7 +47,7 @@ py::object MediaPath(const Discipline& d, int64_t kind, int64_t folder, int64_t 
   const ContentRoot& root = d.state->Live();
   const std::optional<std::string> path = root.MediaPath(d.summary.id, media, path_kind, quality);
   if (!path) return py::none();
-  return FromWindowsAnsi(*path);
+  return FromNarrow(*path);
 }
 
 py::object Index(const Discipline& d, const py::object& type) {
@@ -81,14 +81,14 @@ void RegisterDiscipline(py::module_& module) {
       .def_property_readonly("id", [](const Discipline& d) { return d.Live().id; })
       .def_property_readonly("language", [](const Discipline& d) { return d.Live().language; })
       .def_property_readonly("types", [](const Discipline& d) { return d.Live().types; })
-      .def_property_readonly(
-          "local_root", [](const Discipline& d) { return FromWindowsAnsi(d.Live().localRoot); })
+      .def_property_readonly("local_root",
+                             [](const Discipline& d) { return FromNarrow(d.Live().localRoot); })
       .def_property_readonly("url_root",
-                             [](const Discipline& d) { return FromWindowsAnsi(d.Live().urlRoot); })
+                             [](const Discipline& d) { return FromNarrow(d.Live().urlRoot); })
       .def_property_readonly("unc_root",
-                             [](const Discipline& d) { return FromWindowsAnsi(d.Live().uncRoot); })
-      .def_property_readonly(
-          "data_folder", [](const Discipline& d) { return FromWindowsAnsi(d.Live().dataFolder); })
+                             [](const Discipline& d) { return FromNarrow(d.Live().uncRoot); })
+      .def_property_readonly("data_folder",
+                             [](const Discipline& d) { return FromNarrow(d.Live().dataFolder); })
       .def_property_readonly("glossary",
                              [](const Discipline& d) {
                                d.Live();

@@ -1,5 +1,7 @@
 #include "to_python.h"
 
+#include <lumora/describe/printable_text.h>
+
 namespace py = pybind11;
 
 namespace lumora::python {
@@ -74,9 +76,9 @@ py::object ToPython(const Description& document) {
   return py::reinterpret_steal<py::object>(converted);
 }
 
-py::str FromWindowsAnsi(std::string_view text) {
-  PyObject* decoded =
-      PyUnicode_Decode(text.data(), static_cast<Py_ssize_t>(text.size()), "cp1252", "replace");
+py::str FromNarrow(std::string_view text) {
+  const std::string printable = PrintableText(text, kWindowsAnsi);
+  PyObject* decoded = Text(printable);
   if (decoded == nullptr) throw py::error_already_set();
   return py::reinterpret_steal<py::str>(decoded);
 }

@@ -10,7 +10,8 @@
 namespace lumora::python {
 
 pybind11::object ToPython(const Description& document);
-// Narrow text of the content (code page 1252), as the tool prints it.
-pybind11::str FromWindowsAnsi(std::string_view text);
+// A narrow text of the library's configuration (UTF-8, or else code page 1252), as the tool
+// prints it.
+pybind11::str FromNarrow(std::string_view text);
 
 }  // namespace lumora::python

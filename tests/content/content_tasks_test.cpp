@@ -71,7 +71,8 @@ TEST_F(ContentTasksTest, ExportRefusesBadRequestsAndStopsWhenAsked) {
   ASSERT_TRUE(content) << status.ToString();
   const TempDir destination;
   ExportRequest request;
-  for (const auto& package : content->Packages(1).document) request.packages.push_back(package["id"]);
+  for (const auto& package : content->Packages(1).document)
+    request.packages.push_back(package["id"]);
   request.destination = destination.path() + "out";
   ExportRequest bad = request;
   bad.quality = {0};

@@ -22,7 +22,8 @@ def tool_json(*args, ok_codes=(0,)):
 
 @pytest.fixture(scope="session")
 def sample_dir(tmp_path_factory):
-    folder = tmp_path_factory.mktemp("content")
+    # A folder name outside ASCII: paths in the answers stay the UTF-8 they are.
+    folder = tmp_path_factory.mktemp("contenu-é")
     lumora.sample(str(folder), scale=1)
     return str(folder)
 
