@@ -16,6 +16,8 @@ int HttpStatus(StatusCode code) {
     case StatusCode::kBusy:
       return 503;
     case StatusCode::kUnreadable:
+    case StatusCode::kUnwritable:
+    case StatusCode::kStopped:
       break;
   }
   return 500;
