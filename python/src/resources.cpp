@@ -52,6 +52,7 @@ class ResourceIterator {
       if (position_ == ids_.size()) {
         if (type_ == types_.size()) break;
         current_ = types_[type_++];
+        const py::gil_scoped_release release;
         ids_ = root.ResourceIds(discipline_, current_);
         position_ = 0;
         continue;

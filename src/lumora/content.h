@@ -161,11 +161,12 @@ class ContentRoot {
   Answer Classification() const;
   // `lumora packages --json` (the root must be opened with databases).
   Answer Packages(uint32_t discipline) const;
-  // `lumora export --json`: {"ok", "exportFolder", "report", "resources", "filesCopied",
-  // "bytesCopied"}. Prepares the destination as the tool does (its folder, an empty database and,
-  // when it has none, a Content.ini for the exported discipline), then exports. An export that
-  // reports problems is an answer (ok false, status ok); a destination that cannot be prepared
-  // is kInvalidArgument, kUnreadable or kUnwritable. Holds the library lock alone while it runs.
+  // `lumora export --no-check --json`: {"ok", "exportFolder", "report", "resources",
+  // "filesCopied", "bytesCopied"}. Prepares the destination as the tool does (its folder, an
+  // empty database and, when it has none, a Content.ini for the exported discipline), then
+  // exports. An export that reports problems is an answer (ok false, status ok); a destination
+  // that cannot be prepared is kInvalidArgument, kUnreadable or kUnwritable. Holds the library
+  // lock alone while it runs.
   Answer Export(uint32_t discipline, const ExportRequest& request,
                 const ProgressFunction& progress = {}) const;
 

@@ -134,7 +134,8 @@ def test_a_callback_that_raises_stops_the_work_and_comes_out(root, sample_dir, t
     seen = []
     report = lumora.check(sample_dir, checks=["index", "resources"],
                           progress=lambda done, total: seen.append((done, total)))
-    assert seen[-1] == (2, 2) and {c["name"] for c in report["checks"]} == {"index", "resources"}
+    done, total = seen[-1]
+    assert done == total > 0 and {c["name"] for c in report["checks"]} == {"index", "resources"}
 
     calls.clear()
     d = root.discipline(1)
@@ -153,7 +154,7 @@ def test_export_and_check_equal_the_tool(root, sample_dir, tmp_path):
     root.close()
     theirs = tool_json("export", sample_dir, "-d", 1, "--packages",
                        ",".join(map(str, packages)), "--quality", "1,2",
-                       "--to", tmp_path / "theirs")
+                       "--to", tmp_path / "theirs", "--no-check")
     assert mine["ok"] and steps and steps[-1] == mine["resources"] + 16
     for doc in (mine, theirs):
         doc.pop("exportFolder")
