@@ -172,7 +172,8 @@ class ContentRoot {
 
   // `lumora check --json`: every check of the root, over every discipline or only `discipline`
   // (0: all). Findings are part of the document ("ok" false when one is an error), not a
-  // failure of the answer. Checks run one at a time; other reads go on meanwhile.
+  // failure of the answer. Checks run one at a time; other reads go on meanwhile. CheckContent
+  // checks any folder, with a choice of checks and folders and a progress that can stop.
   Answer Check(uint32_t discipline = 0) const;
 
  private:
