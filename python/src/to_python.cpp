@@ -1,6 +1,6 @@
 #include "to_python.h"
 
-#include <lumora/describe/printable_text.h>
+#include <lumora/maintenance.h>
 
 namespace py = pybind11;
 

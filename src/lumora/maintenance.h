@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -123,6 +124,42 @@ Status ResortGlossary(CGloV6& glossary, bool save);
 // export folder, or empty with the reason.
 std::string PrepareExportDestination(const std::string& root, uint32_t discipline,
                                      const std::string& destination, Status* status);
+
+// The lines of an export's report as printable UTF-8 (the report is in code page 1252).
+std::vector<std::string> ExportReportLines(const std::string& report);
+
+// The files that one write made or replaced below some folders: what they held is recorded
+// before the write and compared after it. Every file the library writes is replaced whole, so a
+// file written again has another inode even when its bytes and time stamp did not change.
+class WrittenFiles {
+ public:
+  // Records the regular files below `folders` (missing folders hold none), leaving out `ignored`.
+  WrittenFiles(std::vector<std::string> folders, std::string ignored);
+
+  struct Count {
+    uint64_t files = 0;
+    uint64_t bytes = 0;
+  };
+  // The files below the folders now that are new or another file than when recorded.
+  Count Since() const;
+
+ private:
+  struct State {
+    uint64_t inode;
+    int64_t modified;  // nanoseconds
+    bool operator==(const State&) const = default;
+  };
+  struct Seen {
+    std::string path;
+    State state;
+    uint64_t size;
+  };
+  std::vector<Seen> Walk() const;
+
+  std::vector<std::string> folders_;
+  std::string ignored_;
+  std::map<std::string, State> before_;
+};
 
 // The media that a package export leaves behind: those of types 19, 21, 28 and 1003, whose
 // classes find and verify their media but have no copy of their own.

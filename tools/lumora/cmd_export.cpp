@@ -18,7 +18,6 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <sstream>
 #include <vector>
 
 #include "check_print.h"
@@ -29,7 +28,6 @@
 #include "export_lists.h"
 #include "export_progress.h"
 #include "printable_text.h"
-#include "written_files.h"
 
 namespace lumora::cli {
 namespace {
@@ -57,14 +55,6 @@ std::string PrepareDestination(const Options& options) {
       PrepareExportDestination(options.root, options.discipline, options.destination, &status);
   if (!status.ok()) throw CommandFailure(status.reason);
   return exportFolder;
-}
-
-std::vector<std::string> ReportLines(const std::string& report) {
-  std::vector<std::string> lines;
-  std::istringstream in(report);
-  for (std::string line; std::getline(in, line);)
-    lines.push_back(PrintableText(line, kWindowsAnsi));
-  return lines;
 }
 
 bool ShowsProgress(const Options& options) {
@@ -112,7 +102,7 @@ Exported RunExport(const Options& options, const std::optional<CustomLists>& lis
                             options.destination.c_str(), &progress, &report, options.withDiagnosis)
                       : lmExportPackage(options.discipline, packageIds, quality,
                                         options.destination.c_str(), &progress, &report);
-  exported.report = ReportLines(report);
+  exported.report = ExportReportLines(report);
   return exported;
 }
 

@@ -5,15 +5,9 @@
 #include <lumora/content/host_progress.h>
 #include <lumora/describe/printable_text.h>
 #include <lumora/frame/library_lock.h>
-#include <lumora/packages/export_folder.h>
-#include <lumora/platform/atomic_write.h>
-#include <lumora/support/paths.h>
-#include <lumora/support/profile_file.h>
+#include <lumora/maintenance.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <mutex>
 #include <sstream>
 
@@ -21,117 +15,6 @@ namespace lumora {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The keys of the source's section for the discipline that the exported tree keeps. Local is
-// left out: the exported discipline's files lie below the new root.
-constexpr const char* kCopiedKeys[] = {"Discipline", "Type", "Param", "URL", "UNC"};
-
-std::string SectionName(int number) {
-  char name[16];
-  std::snprintf(name, sizeof name, "%03d", number);
-  return name;
-}
-
-// The discipline's section of the source's Content.ini, as the destination's section 001.
-Status ExportedContentIni(const std::string& root, uint32_t discipline, std::string* text) {
-  ProfileFile ini;
-  if (!ini.Load(WithBackslash(root) + "Content.ini")) {
-    return Failure(StatusCode::kUnreadable, root + ": Content.ini cannot be read");
-  }
-  for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
-    if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
-    *text = "[001]\r\n";
-    for (const char* key : kCopiedKeys)
-      *text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
-    return Status();
-  }
-  return NotFound(root + ": Content.ini has no section for discipline " +
-                  std::to_string(discipline));
-}
-
-// The export's publishing pass writes beside the resources of every discipline that DEST's
-// Content.ini lists, below their Local roots: one that points outside DEST would have files of
-// another tree rewritten. The library passes such a discipline over; the destination is refused
-// before anything is written, so that the export is never a partial one.
-Status CheckLocalRoots(const std::string& destination) {
-  ProfileFile ini;
-  if (!ini.Load(WithBackslash(destination) + "Content.ini")) return Status();
-  std::vector<std::string> sections = {"Common"};
-  for (int n = 1; ini.FindSection(SectionName(n)); ++n) sections.push_back(SectionName(n));
-  for (const std::string& section : sections) {
-    if (!ini.FindSection(section)) continue;
-    std::string local = ini.GetString("Local");
-    if (local.empty()) continue;
-    std::replace(local.begin(), local.end(), '\\', '/');
-    if (!PathIsWithin(local, destination)) {
-      return Failure(StatusCode::kInvalidArgument,
-                     WithBackslash(destination) + "Content.ini: section " + section +
-                         " has its files in " + local +
-                         ", outside the destination, where the export would write");
-    }
-  }
-  return Status();
-}
-
-// DEST with its export folder, an empty database there unless one exists, and a Content.ini
-// unless DEST has one.
-Status PrepareDestination(const std::string& root, uint32_t discipline,
-                          const std::string& destination, const std::string& exportFolder) {
-  std::error_code error;
-  if (fs::exists(destination, error) && !fs::is_directory(destination, error)) {
-    return Failure(StatusCode::kInvalidArgument, destination + ": is not a folder");
-  }
-  if (Status local = CheckLocalRoots(destination); !local.ok()) return local;
-  std::string ini_text;
-  const std::string ini = WithBackslash(destination) + "Content.ini";
-  if (!fs::exists(ini)) {
-    if (Status read = ExportedContentIni(root, discipline, &ini_text); !read.ok()) return read;
-  }
-  fs::create_directories(exportFolder, error);
-  if (error) {
-    return Failure(StatusCode::kUnwritable,
-                   exportFolder + ": cannot be created: " + error.message());
-  }
-  // An empty file is an empty database; one that exists is left for the export to judge.
-  const std::string database = exportFolder + "Content.mdb";
-  if (!fs::exists(database) && !std::ofstream(database, std::ios::binary)) {
-    return Failure(StatusCode::kUnwritable, database + ": cannot be created");
-  }
-  if (!ini_text.empty()) {
-    const WriteStatus written = WriteFileAtomically(ini, ini_text);
-    if (!written.ok()) return Failure(StatusCode::kUnwritable, written.ToString());
-  }
-  return Status();
-}
-
-struct Written {
-  uint64_t files = 0;
-  uint64_t bytes = 0;
-};
-
-// The files of the export folder (its database aside) and of Classes once the export is done.
-Written WrittenBy(const std::string& exportFolder, const std::string& destination) {
-  Written written;
-  std::error_code error;
-  for (const std::string& folder : {exportFolder, WithBackslash(destination) + "Classes"}) {
-    for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end;
-         it.increment(error)) {
-      if (!it->is_regular_file(error) || it->path() == fs::path(exportFolder + "Content.mdb"))
-        continue;
-      ++written.files;
-      written.bytes += it->file_size(error);
-    }
-  }
-  return written;
-}
-
-std::vector<std::string> ReportLines(const std::string& report) {
-  std::vector<std::string> lines;
-  std::istringstream in(report);
-  for (std::string line; std::getline(in, line);)
-    lines.push_back(PrintableText(line, kWindowsAnsi));
-  return lines;
-}
 
 Status Validate(const ExportRequest& request) {
   if (request.packages.empty()) return Failure(StatusCode::kInvalidArgument, "no package given");
@@ -142,6 +25,14 @@ Status Validate(const ExportRequest& request) {
 
 }  // namespace
 
+std::vector<std::string> ExportReportLines(const std::string& report) {
+  std::vector<std::string> lines;
+  std::istringstream in(report);
+  for (std::string line; std::getline(in, line);)
+    lines.push_back(PrintableText(line, kWindowsAnsi));
+  return lines;
+}
+
 Answer ContentRoot::Export(uint32_t discipline, const ExportRequest& request,
                            const ProgressFunction& progress) const {
   if (Status invalid = Validate(request); !invalid.ok()) return Failed(std::move(invalid));
@@ -151,26 +42,27 @@ Answer ContentRoot::Export(uint32_t discipline, const ExportRequest& request,
   // The export reads the registry and writes through the discipline's database connection.
   std::unique_lock lock(LibraryMutex());
   if (!open_ || !RequestFor(discipline)) return Failed(NoDiscipline(discipline));
-  const std::string exportFolder = ExportFolderOf(request.destination, discipline);
-  if (Status prepared = PrepareDestination(root_, discipline, request.destination, exportFolder);
-      !prepared.ok()) {
-    return Failed(std::move(prepared));
-  }
+  Status prepared;
+  const std::string exportFolder =
+      PrepareExportDestination(root_, discipline, request.destination, &prepared);
+  if (!prepared.ok()) return Failed(std::move(prepared));
+  const WrittenFiles written({exportFolder, (fs::path(request.destination) / "Classes").string()},
+                             exportFolder + "Content.mdb");
   DWordArray packages;
   for (uint32_t id : request.packages) packages.Add(id);
   const HostProgress host(progress);
   std::string report;
   const bool ok = lmExportPackage(discipline, packages, quality, request.destination.c_str(),
                                   host.progress(), &report);
-  const Written written = WrittenBy(exportFolder, request.destination);
+  const WrittenFiles::Count copied = written.Since();
   // The range the export sets is its number of rows and 16 steps after them.
   const uint32_t resources = host.maximum() >= 16 ? host.maximum() - 16 : 0;
   Description document = {{"ok", ok},
                           {"exportFolder", PrintableText(exportFolder)},
-                          {"report", ReportLines(report)},
+                          {"report", ExportReportLines(report)},
                           {"resources", resources},
-                          {"filesCopied", written.files},
-                          {"bytesCopied", written.bytes}};
+                          {"filesCopied", copied.files},
+                          {"bytesCopied", copied.bytes}};
   if (host.stopped()) {
     return {Failure(StatusCode::kStopped, "the export was stopped"), std::move(document)};
   }

@@ -1,6 +1,7 @@
 // A destination made ready for an export: the library expects the export folder, its database
 // and a Content.ini describing the exported discipline, so that the export is a content root of
 // its own.
+#include <lumora/content/content_answers.h>
 #include <lumora/maintenance.h>
 #include <lumora/packages/export_folder.h>
 #include <lumora/platform/atomic_write.h>
@@ -17,11 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Why the destination cannot take the export.
-struct Refused {
-  std::string reason;
-};
-
 // The keys of the source's section for the discipline that the exported tree keeps. Local is
 // left out: the exported discipline's files lie below the new root.
 constexpr const char* kCopiedKeys[] = {"Discipline", "Type", "Param", "URL", "UNC"};
@@ -33,28 +29,29 @@ std::string SectionName(int number) {
 }
 
 // The discipline's section of the source's Content.ini, as the destination's section 001.
-std::string ExportedContentIni(const std::string& root, uint32_t discipline) {
+Status ExportedContentIni(const std::string& root, uint32_t discipline, std::string* text) {
   ProfileFile ini;
   if (!ini.Load(WithBackslash(root) + "Content.ini")) {
-    throw Refused{root + ": Content.ini cannot be read"};
+    return Failure(StatusCode::kUnreadable, root + ": Content.ini cannot be read");
   }
   for (int n = 1; ini.FindSection(SectionName(n)); ++n) {
     if (static_cast<uint32_t>(ini.GetInt("Discipline")) != discipline) continue;
-    std::string text = "[001]\r\n";
+    *text = "[001]\r\n";
     for (const char* key : kCopiedKeys)
-      text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
-    return text;
+      *text += std::string(key) + "=" + ini.GetString(key) + "\r\n";
+    return Status();
   }
-  throw Refused{root + ": Content.ini has no section for discipline " + std::to_string(discipline)};
+  return NotFound(root + ": Content.ini has no section for discipline " +
+                  std::to_string(discipline));
 }
 
 // The export's publishing pass writes beside the resources of every discipline that DEST's
 // Content.ini lists, below their Local roots: one that points outside DEST would have files of
 // another tree rewritten. The library passes such a discipline over; the destination is refused
 // before anything is written, so that the export is never a partial one.
-void CheckLocalRoots(const std::string& destination) {
+Status CheckLocalRoots(const std::string& destination) {
   ProfileFile ini;
-  if (!ini.Load(WithBackslash(destination) + "Content.ini")) return;
+  if (!ini.Load(WithBackslash(destination) + "Content.ini")) return Status();
   std::vector<std::string> sections = {"Common"};
   for (int n = 1; ini.FindSection(SectionName(n)); ++n) sections.push_back(SectionName(n));
   for (const std::string& section : sections) {
@@ -63,48 +60,53 @@ void CheckLocalRoots(const std::string& destination) {
     if (local.empty()) continue;
     std::replace(local.begin(), local.end(), '\\', '/');
     if (!PathIsWithin(local, destination)) {
-      throw Refused{WithBackslash(destination) + "Content.ini: section " + section +
-                    " has its files in " + local +
-                    ", outside the destination, where the export would write"};
+      return Failure(StatusCode::kInvalidArgument,
+                     WithBackslash(destination) + "Content.ini: section " + section +
+                         " has its files in " + local +
+                         ", outside the destination, where the export would write");
     }
   }
+  return Status();
 }
 
-std::string Prepare(const std::string& root, uint32_t discipline, const std::string& destination) {
-  const fs::path folder(destination);
+// DEST with its export folder, an empty database there unless one exists, and a Content.ini
+// unless DEST has one.
+Status Prepare(const std::string& root, uint32_t discipline, const std::string& destination,
+               const std::string& exportFolder) {
   std::error_code error;
-  if (fs::exists(folder, error) && !fs::is_directory(folder, error)) {
-    throw Refused{destination + ": is not a folder"};
+  if (fs::exists(destination, error) && !fs::is_directory(destination, error)) {
+    return Failure(StatusCode::kInvalidArgument, destination + ": is not a folder");
   }
-  CheckLocalRoots(destination);
-  const std::string exportFolder = ExportFolderOf(destination, discipline);
+  if (Status local = CheckLocalRoots(destination); !local.ok()) return local;
+  std::string ini_text;
+  const std::string ini = WithBackslash(destination) + "Content.ini";
+  if (!fs::exists(ini)) {
+    if (Status read = ExportedContentIni(root, discipline, &ini_text); !read.ok()) return read;
+  }
   fs::create_directories(exportFolder, error);
-  if (error) throw Refused{exportFolder + ": cannot be created: " + error.message()};
+  if (error) {
+    return Failure(StatusCode::kUnwritable,
+                   exportFolder + ": cannot be created: " + error.message());
+  }
   // An empty file is an empty database; one that exists is left for the export to judge.
   const std::string database = exportFolder + "Content.mdb";
   if (!fs::exists(database) && !std::ofstream(database, std::ios::binary)) {
-    throw Refused{database + ": cannot be created"};
+    return Failure(StatusCode::kUnwritable, database + ": cannot be created");
   }
-  const std::string ini = WithBackslash(destination) + "Content.ini";
-  if (!fs::exists(ini)) {
-    const WriteStatus written = WriteFileAtomically(ini, ExportedContentIni(root, discipline));
-    if (!written.ok()) throw Refused{written.ToString()};
+  if (!ini_text.empty()) {
+    const WriteStatus written = WriteFileAtomically(ini, ini_text);
+    if (!written.ok()) return Failure(StatusCode::kUnwritable, written.ToString());
   }
-  return exportFolder;
+  return Status();
 }
 
 }  // namespace
 
 std::string PrepareExportDestination(const std::string& root, uint32_t discipline,
                                      const std::string& destination, Status* status) {
-  *status = {};
-  try {
-    return Prepare(root, discipline, destination);
-  } catch (const Refused& refused) {
-    status->code = StatusCode::kInvalidArgument;
-    status->reason = refused.reason;
-    return {};
-  }
+  const std::string exportFolder = ExportFolderOf(destination, discipline);
+  *status = Prepare(root, discipline, destination, exportFolder);
+  return status->ok() ? exportFolder : std::string();
 }
 
 }  // namespace lumora

@@ -1,10 +1,9 @@
-#include "written_files.h"
-
+#include <lumora/maintenance.h>
 #include <sys/stat.h>
 
 #include <filesystem>
 
-namespace lumora::cli {
+namespace lumora {
 
 namespace fs = std::filesystem;
 
@@ -43,4 +42,4 @@ std::vector<WrittenFiles::Seen> WrittenFiles::Walk() const {
   return seen;
 }
 
-}  // namespace lumora::cli
+}  // namespace lumora
