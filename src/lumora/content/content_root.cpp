@@ -1,6 +1,7 @@
 // Opening and closing the one content root of the process, and its disciplines.
 #include <lumora/content.h>
 #include <lumora/content/content_answers.h>
+#include <lumora/content/glossary_search_cache.h>
 #include <lumora/describe/printable_text.h>
 #include <lumora/frame/library_lock.h>
 #include <lumora/frame/opened_disciplines.h>
@@ -19,6 +20,7 @@ bool root_open = false;
 std::unique_ptr<ContentRoot> ContentRoot::Open(const std::string& root, const OpenOptions& options,
                                                Status* status) {
   std::unique_lock lock(LibraryMutex());
+  ForgetSearchIndexes();
   Status failure;
   std::error_code error;
   if (root_open) {
@@ -49,6 +51,7 @@ ContentRoot::~ContentRoot() { Close(); }
 void ContentRoot::Close() {
   std::unique_lock lock(LibraryMutex());
   if (!open_) return;
+  ForgetSearchIndexes();
   lmClose();
   open_ = false;
   root_open = false;

@@ -1,6 +1,7 @@
 // A discipline's glossary and grammar, and the classification, through the content face.
 #include <lumora/content.h>
 #include <lumora/content/content_answers.h>
+#include <lumora/content/glossary_search_cache.h>
 #include <lumora/describe/classification_description.h>
 #include <lumora/describe/glossary_description.h>
 #include <lumora/describe/grammar_description.h>
@@ -26,15 +27,6 @@ Answer FromLexicon(const std::string& root, uint32_t discipline, const Lexicon* 
   return Found(std::move(document));
 }
 
-// Cut before describing, so that a short answer out of a large glossary costs little.
-void KeepFirstWords(WordBuckets& buckets, uint32_t limit) {
-  uint64_t left = limit;
-  for (std::vector<uint16_t>& words : buckets) {
-    if (words.size() > left) words.resize(left);
-    left -= words.size();
-  }
-}
-
 }  // namespace
 
 Answer ContentRoot::FindWords(uint32_t discipline, const std::string& text, bool prefix,
@@ -42,10 +34,10 @@ Answer ContentRoot::FindWords(uint32_t discipline, const std::string& text, bool
   std::shared_lock lock(LibraryMutex());
   return FromLexicon(root_, discipline, open_ ? OpenedGlossary(discipline) : nullptr,
                      GlossaryLoadFailure(discipline), "", [&](const CGloV6& glossary) {
-                       WordBuckets buckets;
-                       glossary.findWords(buckets, 0, Utf8ToUtf16(text), 0, needCode ? 1 : 0,
-                                          prefix);
-                       if (limit) KeepFirstWords(buckets, *limit);
+                       // Only the words answered are described, so that a short answer out
+                       // of a large glossary costs little.
+                       const WordBuckets buckets = SearchIndexOf(glossary)->Find(
+                           Utf8ToUtf16(text), needCode, prefix, limit);
                        return DescribeWordBuckets(glossary, buckets);
                      });
 }

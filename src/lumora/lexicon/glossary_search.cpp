@@ -2,18 +2,13 @@
 // Both walk the alphabetical order, so each bucket lists its words alphabetically.
 #include <lumora/lexicon/class_match.h>
 #include <lumora/lexicon/glossary.h>
-#include <lumora/support/accent_table.h>
+#include <lumora/lexicon/glossary_search_index.h>
+#include <lumora/lexicon/plain_folding.h>
 
 #include <algorithm>
-#include <array>
 
 namespace lumora {
 namespace {
-
-bool HasNeededCode(const GloFNRecord& fn) {
-  return std::any_of(fn.codes.begin(), fn.codes.end(),
-                     [](uint32_t code) { return code >= 50000 && code < 60000; });
-}
 
 bool HasMatchingClass(const GloFNRecord& fn, uint32_t classId) {
   return std::any_of(fn.classIds.begin(), fn.classIds.end(),
@@ -32,7 +27,7 @@ struct LetterFilter {
       return false;
     }
     if (letterId != 0 && fn.letterId != letterId) return false;
-    if (needCode != 0 && !HasNeededCode(fn)) return false;
+    if (needCode != 0 && !HasSearchCode(fn)) return false;
     return classId == 0 || HasMatchingClass(fn, classId);
   }
 };
@@ -57,18 +52,6 @@ void FillBuckets(const CGloV6& glossary, WordBuckets& buckets, Keep keep) {
     if (letter != 0) buckets[letter - 1].push_back(entry.fnId);
   }
 }
-
-// LowerPlain for the units below 256 as a table, so that comparing a word costs no calls.
-class PlainFolding {
- public:
-  PlainFolding() {
-    for (char16_t unit = 0; unit < 256; ++unit) lower_[unit] = AccentTable::LowerPlain(unit);
-  }
-  char16_t operator()(char16_t unit) const { return unit < 256 ? lower_[unit] : unit; }
-
- private:
-  std::array<char16_t, 256> lower_;
-};
 
 // Whether `plain_query` occurs in `text` once `text` is folded (at its start only when
 // `prefix_only`); the text is folded unit by unit as it is compared, never copied.
@@ -117,11 +100,10 @@ bool CGloV6::findWords(WordBuckets& buckets, uint32_t, const std::u16string& que
     return false;
   }
   static const PlainFolding fold;
-  std::u16string plain_query = query;
-  for (char16_t& unit : plain_query) unit = fold(unit);
+  const std::u16string plain_query = fold.Fold(query);
   FillBuckets(*this, buckets, [&](const GloFNRecord& fn) {
     const GloWritingRecord* writing = writings.Find(fn.writingId);
-    if (writing == nullptr || (needCode != 0 && !HasNeededCode(fn))) return false;
+    if (writing == nullptr || (needCode != 0 && !HasSearchCode(fn))) return false;
     return HoldsPlain(fold, writing->writing, plain_query, prefixOnly);
   });
   return true;
