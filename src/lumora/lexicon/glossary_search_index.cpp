@@ -2,6 +2,7 @@
 #include <lumora/lexicon/plain_folding.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace lumora {
 namespace {
@@ -73,14 +74,19 @@ std::vector<uint32_t> GlossarySearchIndex::PrefixMatches(std::u16string_view pla
                                                          bool needCode,
                                                          std::optional<uint32_t> limit) const {
   // The forms starting with the query follow one another in byText_, from the first form not
-  // below the query.
-  auto it = std::lower_bound(
+  // below the query: two binary searches find them all.
+  const auto first = std::lower_bound(
       byText_.begin(), byText_.end(), plain_query,
       [this](uint32_t position, std::u16string_view q) { return TextOf(entries_[position]) < q; });
+  const auto last = std::partition_point(first, byText_.end(), [&](uint32_t position) {
+    return TextOf(entries_[position]).substr(0, plain_query.size()) == plain_query;
+  });
   std::vector<uint32_t> found;
-  for (; it != byText_.end() && TextOf(entries_[*it]).substr(0, plain_query.size()) == plain_query;
-       ++it) {
-    if (!needCode || entries_[*it].hasCode) found.push_back(*it);
+  if (needCode) {
+    std::copy_if(first, last, std::back_inserter(found),
+                 [this](uint32_t position) { return entries_[position].hasCode; });
+  } else {
+    found.assign(first, last);
   }
   if (limit && found.size() > *limit) {
     std::nth_element(found.begin(), found.begin() + *limit, found.end());
