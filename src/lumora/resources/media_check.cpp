@@ -21,15 +21,16 @@ bool FolderHoldsCopy(const std::vector<std::string>& candidates) {
 std::string LookUpMissingMedium(const std::string& root, const ByteArray& quality_folders,
                                 MediaRef& media) {
   if (quality_folders.empty()) return std::string();
-  const std::vector<std::string> first_tried = media.CandidatePaths(root, quality_folders[0]);
-  if (first_tried.empty()) return std::string();
   bool found = false;
   for (uint8_t q : quality_folders) {
     if (!media.BuildPath(root, kPathUnc, root, q)) continue;
     found = true;
     if (media.kind == kMediaVideo) break;
   }
-  return found ? std::string() : first_tried.front();
+  if (found) return std::string();
+  // Named only when missing: a medium that no candidate name can be built for is not reported.
+  const std::vector<std::string> first_tried = media.CandidatePaths(root, quality_folders[0]);
+  return first_tried.empty() ? std::string() : first_tried.front();
 }
 
 std::vector<std::string> MissingMediumCopies(const std::string& root,

@@ -6,7 +6,6 @@
 #include <lumora/support/paths.h>
 
 #include <array>
-#include <cstdio>
 #include <string_view>
 
 namespace lumora {
@@ -37,11 +36,7 @@ char SeparatorOf(uint32_t path_kind) {
   return path_kind == kPathUrl ? '/' : path_kind == kPathUnc ? '\\' : '\0';
 }
 
-std::string QualityFolderName(uint8_t q) {
-  char name[8];
-  std::snprintf(name, sizeof name, "Q%u", unsigned{q});
-  return name;
-}
+std::string QualityFolderName(uint8_t q) { return LetterAndNumber('Q', q, 1); }
 
 }  // namespace
 
@@ -79,15 +74,21 @@ bool MediaRef::BuildPath(const std::string& local_root, uint32_t path_kind,
   if (sep == '\0' || folder == 0 || files == nullptr) return false;
   const std::string course = CourseFolderName(CourseOf(resource));
   const std::string type_folder = NumberedName('r', folder);
-  const std::string local = local_root + course + kPathSeparator + type_folder + kPathSeparator;
   const std::string stem = NumberedName(files->stem_letter, NumberOf(resource));
+  // One buffer for every name tried: most media are looked up under several.
+  std::string candidate = local_root + course + kPathSeparator + type_folder + kPathSeparator;
+  const size_t type_end = candidate.size();
   for (uint8_t q : QualityOrderOf(selector).folders) {
-    const std::string candidate = local + QualityFolderName(q) + kPathSeparator + stem;
+    const std::string quality = QualityFolderName(q);
+    candidate.resize(type_end);
+    candidate.append(quality).append(1, kPathSeparator).append(stem);
+    const size_t stem_end = candidate.size();
     for (std::string_view ext : files->extensions) {
       if (ext.empty()) break;
-      if (!FileListed(candidate + std::string(ext))) continue;
+      candidate.resize(stem_end);
+      if (!FileListed(candidate.append(ext))) continue;
       path = chosen_root;
-      for (const std::string& part : {course, type_folder, QualityFolderName(q)}) {
+      for (const std::string& part : {course, type_folder, quality}) {
         path.append(part).push_back(sep);
       }
       path.append(stem).append(ext);

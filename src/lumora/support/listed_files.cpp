@@ -20,14 +20,16 @@ ListedFiles::~ListedFiles() { listed = previous_; }
 bool ListedFiles::Contains(const std::string& path) {
   const size_t slash = path.find_last_of(kPathSeparator);
   if (slash == std::string::npos) return FileExists(path);
-  return Listed(path.substr(0, slash + 1)).count(path.substr(slash + 1)) != 0;
+  const std::string_view whole(path);
+  return Listed(whole.substr(0, slash + 1)).contains(whole.substr(slash + 1));
 }
 
-const ListedFiles::Files& ListedFiles::Listed(const std::string& folder) {
+const ListedFiles::Files& ListedFiles::Listed(std::string_view folder) {
   const auto known = folders_.find(folder);
   if (known != folders_.end()) return known->second;
-  Files& files = folders_[folder];
-  if (const auto entries = ListedFolder(folder)) {
+  const std::string name(folder);
+  Files& files = folders_[name];
+  if (const auto entries = ListedFolder(name)) {
     for (const FolderEntry& entry : *entries) {
       if (entry.isFile) files.insert(entry.name);
     }

@@ -4,7 +4,9 @@
 // FileListed reads each folder once and answers from its list.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -24,11 +26,16 @@ class ListedFiles {
   bool Contains(const std::string& path);
 
  private:
+  // Names are looked up as views into the path asked about, so that a look-up copies nothing.
+  struct NameHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
+  };
   // The regular files of a folder (nothing for a folder that cannot be listed).
-  using Files = std::unordered_set<std::string>;
-  const Files& Listed(const std::string& folder);
+  using Files = std::unordered_set<std::string, NameHash, std::equal_to<>>;
+  const Files& Listed(std::string_view folder);
 
-  std::unordered_map<std::string, Files> folders_;
+  std::unordered_map<std::string, Files, NameHash, std::equal_to<>> folders_;
   ListedFiles* previous_;
 };
 
