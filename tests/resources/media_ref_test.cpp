@@ -1,5 +1,6 @@
 #include <lumora/resources/content_request.h>
 #include <lumora/resources/media_ref.h>
+#include <lumora/resources/resource_id.h>
 
 #include <gtest/gtest.h>
 
@@ -73,6 +74,16 @@ TEST_F(BuildPathTest, FailureLeavesThePathAndFolderZeroFails) {
   media.folder = 0;
   EXPECT_FALSE(media.BuildPath(dir_.path(), kPathUrl, kUrl, 1));
   EXPECT_EQ(media.path, "earlier");
+}
+
+TEST(MediaRef, FolderAndFileNamesPadTheirNumbersAndKeepLongerOnes) {
+  EXPECT_EQ(CourseFolderName(0), "C0000");
+  EXPECT_EQ(CourseFolderName(1), "C0001");
+  EXPECT_EQ(CourseFolderName(4095), "C4095");
+  EXPECT_EQ(CourseFolderName(12345), "C12345");
+  EXPECT_EQ(NumberedName('r', 40), "r0000040");
+  EXPECT_EQ(NumberedName('s', 1048575), "s1048575");
+  EXPECT_EQ(NumberedName('p', 4294967295u), "p4294967295");
 }
 
 TEST(MediaRef, StoredFormIsSevenBytesAndKeepsThePath) {
