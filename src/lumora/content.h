@@ -187,6 +187,10 @@ class ContentRoot {
 // errors, "checks": [{"name", "checked", "errors", "warnings", "findings": [{"severity",
 // "file", "message"}]}]}.
 Description DescribeCheck(const std::vector<CheckReport>& reports);
+// The "checks" array of that document alone. With `inherited` (for each report, for each of its
+// findings, whether the source of an export has it too), each finding also has "inherited".
+Description DescribeCheckReports(const std::vector<CheckReport>& reports,
+                                 const std::vector<std::vector<bool>>& inherited = {});
 
 }  // namespace lumora
 

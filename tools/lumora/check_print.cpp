@@ -19,24 +19,6 @@ bool IsInherited(const InheritedFindings& inherited, size_t report,
   return at < inherited[report].size() && inherited[report][at];
 }
 
-nlohmann::ordered_json ReportJson(const CheckReport& report, const std::vector<bool>* inherited) {
-  nlohmann::ordered_json findings = nlohmann::ordered_json::array();
-  for (size_t i = 0; i < report.findings.size(); ++i) {
-    const Finding& f = report.findings[i];
-    nlohmann::ordered_json finding = {{"severity", SeverityName(f.severity)},
-                                      {"file", PrintableText(f.file)},
-                                      {"message", PrintableText(f.message)}};
-    if (inherited) finding["inherited"] = i < inherited->size() && (*inherited)[i];
-    if (f.count > 1) finding["count"] = f.count;
-    findings.push_back(std::move(finding));
-  }
-  return {{"name", report.name},
-          {"checked", report.checked},
-          {"errors", report.errors()},
-          {"warnings", report.warnings()},
-          {"findings", findings}};
-}
-
 }  // namespace
 
 void PrintCheckReports(const std::vector<CheckReport>& reports,
@@ -62,16 +44,6 @@ void PrintCheckReports(const std::vector<CheckReport>& reports,
       }
     }
   }
-}
-
-nlohmann::ordered_json CheckReportsJson(const std::vector<CheckReport>& reports,
-                                        const InheritedFindings& inherited) {
-  nlohmann::ordered_json checks = nlohmann::ordered_json::array();
-  for (size_t report = 0; report < reports.size(); ++report) {
-    checks.push_back(
-        ReportJson(reports[report], inherited.empty() ? nullptr : &inherited.at(report)));
-  }
-  return checks;
 }
 
 }  // namespace lumora::cli

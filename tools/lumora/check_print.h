@@ -1,12 +1,10 @@
 // The findings of the integrity checks as `lumora check` and `lumora export` show them: a line of
 // counts per check, then the findings of each check that has any, 20 of one problem per file and
-// a line that counts the rest; in JSON every finding, with "count" where one stands for several.
-// The check of an export also says, for each finding, whether the source has it too.
+// a line that counts the rest (their JSON is the library's DescribeCheckReports). The check of an
+// export also says, for each finding, whether the source has it too.
 #pragma once
 
 #include <lumora/maintenance.h>
-
-#include <nlohmann/json.hpp>
 
 #include <vector>
 
@@ -18,9 +16,5 @@ using InheritedFindings = std::vector<std::vector<bool>>;
 
 void PrintCheckReports(const std::vector<CheckReport>& reports,
                        const InheritedFindings& inherited = {});
-
-// The reports as the "checks" of `--json`; with marks, each finding has "inherited".
-nlohmann::ordered_json CheckReportsJson(const std::vector<CheckReport>& reports,
-                                        const InheritedFindings& inherited = {});
 
 }  // namespace lumora::cli

@@ -162,7 +162,7 @@ void Run(const Options& options) {
                                       {"filesCopied", count.files},
                                       {"bytesCopied", count.bytes}};
     if (copy) summary["allMedia"] = CopyJson(*copy);
-    if (checks) summary["checks"] = CheckReportsJson(checks->reports, checks->inherited);
+    if (checks) summary["checks"] = DescribeCheckReports(checks->reports, checks->inherited);
     PrintJson(summary);
   } else {
     for (const std::string& line : exported.report) std::printf("%s\n", line.c_str());

@@ -15,12 +15,14 @@ const char* SeverityName(Severity severity) {
   return severity == Severity::kError ? "error" : "warning";
 }
 
-Description ReportDocument(const CheckReport& report) {
+Description ReportDocument(const CheckReport& report, const std::vector<bool>* inherited) {
   Description findings = Description::array();
-  for (const Finding& f : report.findings) {
+  for (size_t i = 0; i < report.findings.size(); ++i) {
+    const Finding& f = report.findings[i];
     Description finding = {{"severity", SeverityName(f.severity)},
                            {"file", PrintableText(f.file)},
                            {"message", PrintableText(f.message)}};
+    if (inherited) finding["inherited"] = i < inherited->size() && (*inherited)[i];
     // A finding that stands for several says how many.
     if (f.count > 1) finding["count"] = f.count;
     findings.push_back(std::move(finding));
@@ -61,14 +63,18 @@ Status Validate(const std::string& root, const CheckRequest& request, CheckOptio
 
 }  // namespace
 
+Description DescribeCheckReports(const std::vector<CheckReport>& reports,
+                                 const std::vector<std::vector<bool>>& inherited) {
+  Description checks = Description::array();
+  for (size_t i = 0; i < reports.size(); ++i)
+    checks.push_back(ReportDocument(reports[i], inherited.empty() ? nullptr : &inherited.at(i)));
+  return checks;
+}
+
 Description DescribeCheck(const std::vector<CheckReport>& reports) {
   uint64_t errors = 0;
-  Description checks = Description::array();
-  for (const CheckReport& r : reports) {
-    errors += r.errors();
-    checks.push_back(ReportDocument(r));
-  }
-  return {{"ok", errors == 0}, {"checks", std::move(checks)}};
+  for (const CheckReport& r : reports) errors += r.errors();
+  return {{"ok", errors == 0}, {"checks", DescribeCheckReports(reports)}};
 }
 
 Answer CheckContent(const std::string& root, const CheckRequest& request,
