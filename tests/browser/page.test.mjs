@@ -224,7 +224,8 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
     const show = media.getByRole("link", { name: /^show resource/ }).first();
     await show.click();
     await page.waitForURL(/\/d\/1\/resource\/\d+\/\d+$/);
-    assert.match(await page.locator("h1").textContent(), /^Resource 0x/);
+    // The address changes before the resource has been fetched and drawn.
+    await page.locator("h1", { hasText: /^Resource 0x/ }).waitFor({ timeout: 30000 });
     assert.deepEqual(errors, []);
   });
 
