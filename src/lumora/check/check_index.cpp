@@ -9,11 +9,14 @@
 #include <lumora/resources/resource_index.h>
 #include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
+#include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type40.h>
 #include <lumora/support/paths.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <set>
 #include <string>
 
@@ -31,10 +34,40 @@ size_t FirstDifference(const std::string& a, const std::string& b) {
   return static_cast<size_t>(in_a - a.begin());
 }
 
-void CompareWithRebuild(const CheckedRoot& root, const Discipline& discipline, uint32_t type,
-                        const std::string& stored_path, const std::string& scratch,
-                        CheckReport& report) {
-  if (!BuildTypeIndex(type, discipline.localRoot, scratch)) {
+// The rebuilds of one discipline's index files into a scratch folder, each type's at most once:
+// type 40's rebuild starts by rebuilding the type-1005 index it reads, which the type-1005
+// comparison then reuses instead of decoding every element a second time.
+class Rebuilds {
+ public:
+  Rebuilds(const std::string& resource_root, const std::string& scratch)
+      : resource_root_(resource_root), scratch_(scratch) {}
+
+  // Whether every resource file of `type` read (and, for type 40, linked only to indexed
+  // elements); the rebuilt index is in the scratch folder either way.
+  bool Build(uint32_t type) {
+    if (const auto done = built_.find(type); done != built_.end()) return done->second;
+    bool built;
+    if (type == Type40Resource::kType) {
+      Build(kContentElementType);
+      built = BuildType40IndexOverElements(resource_root_, scratch_);
+    } else {
+      built = BuildTypeIndex(type, resource_root_, scratch_);
+    }
+    built_.emplace(type, built);
+    return built;
+  }
+
+  const std::string& scratch() const { return scratch_; }
+
+ private:
+  const std::string& resource_root_;
+  const std::string& scratch_;
+  std::map<uint32_t, bool> built_;
+};
+
+void CompareWithRebuild(const CheckedRoot& root, uint32_t type, const std::string& stored_path,
+                        Rebuilds& rebuilds, CheckReport& report) {
+  if (!rebuilds.Build(type)) {
     // The type-40 rebuild also fails on a link to an element its type-1005 index lacks, which
     // an export that leaves the elements behind always has.
     const std::string why = type == Type40Resource::kType
@@ -48,7 +81,8 @@ void CompareWithRebuild(const CheckedRoot& root, const Discipline& discipline, u
   std::string stored;
   std::string rebuilt;
   if (ReadWholeFile(stored_path, kMostIndexBytes, stored) != WholeFile::kRead ||
-      ReadWholeFile(IndexFilePath(scratch, type), kMostIndexBytes, rebuilt) != WholeFile::kRead) {
+      ReadWholeFile(IndexFilePath(rebuilds.scratch(), type), kMostIndexBytes, rebuilt) !=
+          WholeFile::kRead) {
     return;
   }
   if (stored == rebuilt) return;
@@ -61,7 +95,7 @@ void CompareWithRebuild(const CheckedRoot& root, const Discipline& discipline, u
 }
 
 void CheckType(const CheckedRoot& root, const Discipline& discipline, uint32_t type,
-               const std::string& scratch, CheckReport& report) {
+               Rebuilds* rebuilds, CheckReport& report) {
   const std::string path = IndexFilePath(discipline.dataFolder, type);
   const std::vector<ScannedResource> files = ScanResourceFiles(discipline.localRoot, type);
   ++report.checked;
@@ -102,7 +136,7 @@ void CheckType(const CheckedRoot& root, const Discipline& discipline, uint32_t t
                    "is not in the " + TypeName(type) + " index: the library never lists it");
     }
   }
-  if (!scratch.empty()) CompareWithRebuild(root, discipline, type, path, scratch, report);
+  if (rebuilds != nullptr) CompareWithRebuild(root, type, path, *rebuilds, report);
   root.StepsDone(files.size());
 }
 
@@ -119,8 +153,9 @@ void CheckIndexes(const CheckedRoot& root, CheckReport& report) {
                      "no scratch folder could be made: the index files are not compared with a "
                      "rebuild");
     }
+    Rebuilds rebuilds(d.discipline->localRoot, scratch.path());
     for (uint32_t type : kExerciseTypes) {
-      CheckType(root, *d.discipline, type, scratch.path(), report);
+      CheckType(root, *d.discipline, type, scratch.path().empty() ? nullptr : &rebuilds, report);
     }
   }
 }
