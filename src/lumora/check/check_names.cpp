@@ -130,7 +130,17 @@ class NameWalk {
   // Checks the entries of `folder` against the names looked for in `places`, and walks the
   // folders among them that lead somewhere.
   void Walk(const std::string& folder, const std::vector<Place>& places) {
-    const auto entries = ListFolder(folder);
+    // The root's listing of the course and type folders holds most names; it no longer says
+    // what is there once names are fixed.
+    const FolderEntries* listed =
+        root_.options.fixCase ? nullptr : root_.resourceFolders.Find(folder);
+    const FolderEntries entries = listed != nullptr ? FolderEntries() : ListFolder(folder);
+    Walk(folder, listed != nullptr ? *listed : entries, places);
+  }
+
+ private:
+  void Walk(const std::string& folder, const FolderEntries& entries,
+            const std::vector<Place>& places) {
     if (!entries) {
       if (FolderExists(folder)) {
         report_.Warning(root_.Relative(folder), "cannot be listed: nothing below it is checked");
@@ -149,7 +159,6 @@ class NameWalk {
     }
   }
 
- private:
   // True when the entry now has the spelling looked for.
   bool Report(const std::string& folder, const std::string& name, const std::string& spelled) {
     const std::string from = folder + name;
