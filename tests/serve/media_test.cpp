@@ -39,6 +39,8 @@ TEST_F(MediaTest, AnswersEachPathWithItsStatusTypeAndBytes) {
       {"/media/d/2/x.swf", 404, "application/json", ""},
       {"/media/d/3/x.swf", 404, "application/json", ""},
       {"/api/nothing", 404, "application/json", ""},
+      {"/favicon.ico", 404, "application/json", ""},
+      {"/d/1/robots.txt", 404, "application/json", ""},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.path);

@@ -8,7 +8,7 @@
 namespace lumora::serve {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 17> kTypes{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 18> kTypes{{
     {"swf", "application/x-shockwave-flash"},
     {"mpg", "video/mpeg"},
     {"mpeg", "video/mpeg"},
@@ -19,6 +19,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 17> kTypes{{
     {"jpg", "image/jpeg"},
     {"jpeg", "image/jpeg"},
     {"gif", "image/gif"},
+    {"svg", "image/svg+xml"},
     {"html", "text/html; charset=utf-8"},
     {"htm", "text/html; charset=utf-8"},
     {"js", "text/javascript"},

@@ -87,7 +87,9 @@ Response Router::Dispatch(const Request& request) const {
     return response;
   }
   const bool owned = !request.segments.empty() && Owns(request.segments.front());
-  if (fallback_ && !owned && (request.method == "GET" || request.method == "HEAD")) {
+  const bool names_file =
+      !request.segments.empty() && request.segments.back().find('.') != std::string::npos;
+  if (fallback_ && !owned && !names_file && (request.method == "GET" || request.method == "HEAD")) {
     return Call(fallback_, request, RouteMatch{});
   }
   return ErrorResponse(404, "no such address: " + request.raw_path);

@@ -30,8 +30,10 @@ class Router {
   void Get(std::string_view pattern, Handler handler) { Add("GET", pattern, std::move(handler)); }
 
   // Answers the GET and HEAD requests that no route takes, except below the first segment of a
-  // route ("/api/...", "/media/..."), where an unknown path stays a 404: the page answers its
-  // own paths ("/d/1/type/40") so. Without one, they answer 404.
+  // route ("/api/...", "/media/...") and for a path that ends in a file name ("/favicon.ico"),
+  // where an unknown path stays a 404: the page answers its own paths ("/d/1/type/40") so, and
+  // a browser asking for a file it guessed learns that there is none. Without one, they answer
+  // 404.
   void SetFallback(Handler handler) { fallback_ = std::move(handler); }
 
   // The handler's answer; 404 for a path no route takes, 405 (with Allow) for a path taken only
