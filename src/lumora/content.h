@@ -144,7 +144,9 @@ class ContentRoot {
 
   // `lumora glossary find|word|letters --json`. With `limit`, the find keeps the first `limit`
   // words in the document's order (the letter sections in turn, the words of each in order)
-  // and leaves out the sections left without words.
+  // and leaves out the sections left without words. The find answers from an index of the
+  // glossary made at its first search, and made again after the glossary is loaded again or
+  // resorted (ResortGlossary): a host that changes its records by other means resorts it.
   Answer FindWords(uint32_t discipline, const std::string& text, bool prefix, bool needCode,
                    std::optional<uint32_t> limit = std::nullopt) const;
   Answer GlossaryWord(uint32_t discipline, uint32_t fnId, uint32_t pathKind = kPathLocal,

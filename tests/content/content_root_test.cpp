@@ -1,12 +1,17 @@
 // The content face over the sample: one root open at a time, answers equal to the tool's --json
 // documents, and failures that say why.
 #include <lumora/content.h>
+#include <lumora/descriptions.h>
+#include <lumora/lumora.h>
+#include <lumora/maintenance.h>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "fixtures/run_cli.h"
 #include "fixtures/sample_suite.h"
@@ -78,6 +83,36 @@ TEST_F(ContentRootTest, AnswersAreTheToolsDocuments) {
                      std::to_string(type) + " --id " + std::to_string(ids.front())));
     }
   }
+}
+
+// A host that renames a word and resorts the glossary finds the word under its new name: the
+// searches do not answer from the order they first saw.
+TEST_F(ContentRootTest, SearchesFollowAResortedGlossary) {
+  auto content = Open();
+  ASSERT_TRUE(content);
+  content->FindWords(1, "cafe", false, false);  // the index is made here
+  ContentRequest request;
+  request.disciplineId = 1;
+  CGloV6* glossary = lmGetGlossary(&request);
+  ASSERT_NE(glossary, nullptr);
+  std::vector<uint16_t> renamed;
+  for (const GloWritingRecord& record : glossary->writings) {
+    if (record.writing.view() == u"le café") renamed.push_back(record.writingId);
+  }
+  ASSERT_FALSE(renamed.empty());
+  for (uint16_t id : renamed) glossary->writings.Find(id)->writing = u"le zebra";
+  ASSERT_TRUE(ResortGlossary(*glossary, /*save=*/false).ok());
+
+  const std::pair<const char16_t*, const char*> queries[] = {{u"zebra", "zebra"},
+                                                             {u"cafe", "cafe"}};
+  for (const auto& [wide, narrow] : queries) {
+    WordBuckets buckets;
+    glossary->findWords(buckets, 0, wide, 0, 0, false);
+    EXPECT_EQ(content->FindWords(1, narrow, false, false).document,
+              DescribeWordBuckets(*glossary, buckets));
+  }
+  EXPECT_NE(content->FindWords(1, "zebra", false, false).document,
+            content->FindWords(1, "qqqq", false, false).document);
 }
 
 TEST_F(ContentRootTest, PackagesNeedTheDatabases) {

@@ -34,4 +34,9 @@ void ForgetSearchIndexes() {
   Indexes().clear();
 }
 
+void ForgetSearchIndexOf(const CGloV6& glossary) {
+  std::lock_guard lock(CacheMutex());
+  Indexes().erase(&glossary);
+}
+
 }  // namespace lumora

@@ -1,4 +1,5 @@
 // Index rebuilds and the glossary's order, with what each left on the disk.
+#include <lumora/content/glossary_search_cache.h>
 #include <lumora/lexicon/glossary_rebuild.h>
 #include <lumora/maintenance.h>
 #include <lumora/resources/index_rebuild.h>
@@ -64,6 +65,8 @@ Status ResortGlossary(CGloV6& glossary, bool save) {
     status.reason = "a rebuild is already running";
     return status;
   }
+  // The order and letters changed in the tables the search index was made from.
+  ForgetSearchIndexOf(glossary);
   if (!save) return {};
   const WriteStatus saved = SaveSortAndLetters(glossary);
   if (!saved.ok()) return WriteFailure(saved, "the glossary was not saved: ");
