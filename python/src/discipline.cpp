@@ -58,11 +58,12 @@ py::object Index(const Discipline& d, const py::object& type) {
 
 py::object Export(const Discipline& d, const std::vector<int64_t>& packages,
                   const std::string& destination, const py::iterable& quality,
-                  const py::object& progress) {
+                  const py::object& progress, bool check) {
   ExportRequest request;
   for (int64_t id : packages) request.packages.push_back(Unsigned32(id, "a package"));
   request.quality = QualityFolders(quality);
   request.destination = destination;
+  request.check = check;
   PythonProgress reports(progress);
   const ContentRoot& root = d.state->Live();
   Answer answer;
@@ -116,7 +117,8 @@ void RegisterDiscipline(py::module_& module) {
              return ToPython(d.state->Document(d.state->Live().Packages(d.summary.id)));
            })
       .def("export", &Export, py::arg("packages"), py::arg("to"),
-           py::arg("quality") = py::make_tuple(1, 2, 3), py::arg("progress") = py::none())
+           py::arg("quality") = py::make_tuple(1, 2, 3), py::arg("progress") = py::none(),
+           py::arg("check") = true)
       .def("__repr__", [](const Discipline& d) {
         return "<lumora.Discipline " + std::to_string(d.summary.id) + ">";
       });

@@ -99,6 +99,7 @@ struct ExportRequest {
   std::vector<uint32_t> packages;  // from the discipline's database
   std::vector<uint8_t> quality;    // media quality folders 1 to 3; empty: all three
   std::string destination;         // a content root of its own once written
+  bool check = true;               // check what the export wrote (CheckExport)
 };
 
 // Writes the sample content root into `dir` with `scale` units per discipline (1 to
@@ -163,12 +164,16 @@ class ContentRoot {
   Answer Classification() const;
   // `lumora packages --json` (the root must be opened with databases).
   Answer Packages(uint32_t discipline) const;
-  // `lumora export --no-check --json`: {"ok", "exportFolder", "report", "resources",
-  // "filesCopied", "bytesCopied"}. Prepares the destination as the tool does (its folder, an
-  // empty database and, when it has none, a Content.ini for the exported discipline), then
-  // exports. An export that reports problems is an answer (ok false, status ok); a destination
-  // that cannot be prepared is kInvalidArgument, kUnreadable or kUnwritable. Holds the library
-  // lock alone while it runs.
+  // `lumora export --json`: {"ok", "exportFolder", "report", "resources", "filesCopied",
+  // "bytesCopied", "checks"}. Prepares the destination as the tool does (its folder, an empty
+  // database and, when it has none, a Content.ini for the exported discipline), exports, then
+  // checks what it wrote as CheckExport does: "checks" is `lumora check --json`'s array, each
+  // finding marked "inherited" or not, and "ok" is false when the export reported problems or
+  // the check found errors the source does not have. Without request.check, the document of
+  // `lumora export --no-check --json`. An export that reports problems is an answer (ok false,
+  // status ok); a destination that cannot be prepared is kInvalidArgument, kUnreadable or
+  // kUnwritable. Holds the library lock alone while it exports; the progress then follows the
+  // check, whose steps are the files it reads.
   Answer Export(uint32_t discipline, const ExportRequest& request,
                 const ProgressFunction& progress = {}) const;
 

@@ -1,12 +1,15 @@
 // The face's long work over the sample: check, export and sample writing, their refusals of bad
 // requests, and a progress function that stops them; and the ids behind an index's numbers.
 #include <lumora/content.h>
+#include <lumora/maintenance.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "fixtures/sample_suite.h"
 #include "fixtures/temp_dir.h"
@@ -14,7 +17,18 @@
 namespace lumora::testing {
 namespace {
 
-class ContentTasksTest : public SampleContentSuite {};
+class ContentTasksTest : public SampleContentSuite {
+ protected:
+  // The sample opened with its package databases, which an export reads.
+  std::unique_ptr<ContentRoot> OpenWithDatabases() {
+    Status status;
+    OpenOptions options;
+    options.databases = true;
+    auto content = ContentRoot::Open(root(), options, &status);
+    EXPECT_TRUE(content) << status.ToString();
+    return content;
+  }
+};
 
 TEST_F(ContentTasksTest, IndexNumbersGetTheCourseOfTheFolderThatHoldsTheirFile) {
   Status status;
@@ -64,11 +78,8 @@ TEST_F(ContentTasksTest, CheckRefusesBadRequestsAndStopsWhenAsked) {
 }
 
 TEST_F(ContentTasksTest, ExportRefusesBadRequestsAndStopsWhenAsked) {
-  Status status;
-  OpenOptions options;
-  options.databases = true;
-  auto content = ContentRoot::Open(root(), options, &status);
-  ASSERT_TRUE(content) << status.ToString();
+  auto content = OpenWithDatabases();
+  ASSERT_TRUE(content);
   const TempDir destination;
   ExportRequest request;
   for (const auto& package : content->Packages(1).document)
@@ -86,6 +97,28 @@ TEST_F(ContentTasksTest, ExportRefusesBadRequestsAndStopsWhenAsked) {
   EXPECT_EQ(stopped.status.code, StatusCode::kStopped);
   EXPECT_EQ(stopped.document["ok"], false);
   EXPECT_EQ(stopped.document["report"].back(), "The export was stopped before its end.");
+}
+
+// What an export wrote is checked unless the host says not to; the sample exports undamaged.
+TEST_F(ContentTasksTest, AnExportIsCheckedUnlessAskedNotTo) {
+  auto content = OpenWithDatabases();
+  ASSERT_TRUE(content);
+  const TempDir destination;
+  ExportRequest request;
+  request.packages = {content->Packages(1).document.front()["id"].get<uint32_t>()};
+  request.destination = destination.path() + "checked";
+  const Answer checked = content->Export(1, request);
+  ASSERT_TRUE(checked.ok()) << checked.status.ToString();
+  EXPECT_EQ(checked.document["ok"], true) << checked.document.dump();
+  std::vector<std::string> names;
+  for (const auto& check : checked.document["checks"]) names.push_back(check["name"]);
+  EXPECT_EQ(names, ExportCheckNames());
+
+  request.destination = destination.path() + "unchecked";
+  request.check = false;
+  const Answer unchecked = content->Export(1, request);
+  ASSERT_TRUE(unchecked.ok()) << unchecked.status.ToString();
+  EXPECT_FALSE(unchecked.document.contains("checks"));
 }
 
 TEST_F(ContentTasksTest, SampleScaleIsChecked) {

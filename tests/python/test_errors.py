@@ -151,14 +151,19 @@ def test_export_and_check_equal_the_tool(root, sample_dir, tmp_path):
     steps = []
     mine = d.export(packages=packages, to=str(tmp_path / "mine"), quality=[1, 2],
                     progress=lambda done, total: steps.append(total))
+    unchecked = d.export(packages=packages, to=str(tmp_path / "unchecked"), quality=[1, 2],
+                         check=False)
     root.close()
-    theirs = tool_json("export", sample_dir, "-d", 1, "--packages",
-                       ",".join(map(str, packages)), "--quality", "1,2",
-                       "--to", tmp_path / "theirs", "--no-check")
-    assert mine["ok"] and steps and steps[-1] == mine["resources"] + 16
-    for doc in (mine, theirs):
+    exported = ("export", sample_dir, "-d", 1, "--packages", ",".join(map(str, packages)),
+                "--quality", "1,2")
+    theirs = tool_json(*exported, "--to", tmp_path / "theirs")
+    theirs_unchecked = tool_json(*exported, "--to", tmp_path / "theirs-unchecked", "--no-check")
+    # The export's steps come first, then the check's.
+    assert mine["ok"] and mine["resources"] + 16 in steps
+    for doc in (mine, theirs, unchecked, theirs_unchecked):
         doc.pop("exportFolder")
-    assert mine == theirs
+    assert "checks" in mine and "checks" not in unchecked
+    assert mine == theirs and unchecked == theirs_unchecked
     assert lumora.check(sample_dir) == tool_json("check", sample_dir, ok_codes=(0, 1))
     assert lumora.check(str(tmp_path / "mine"), quality=[1, 2]) == tool_json(
         "check", tmp_path / "mine", "--quality", "1,2", ok_codes=(0, 1))

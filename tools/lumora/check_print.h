@@ -10,10 +10,6 @@
 
 namespace lumora::cli {
 
-// For each report, for each of its findings: whether the source of an export has it too.
-// Empty for a check that weighs nothing against a source.
-using InheritedFindings = std::vector<std::vector<bool>>;
-
 void PrintCheckReports(const std::vector<CheckReport>& reports,
                        const InheritedFindings& inherited = {});
 

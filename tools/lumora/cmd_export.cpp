@@ -24,7 +24,6 @@
 #include "check_progress.h"
 #include "commands.h"
 #include "content_args.h"
-#include "export_check.h"
 #include "export_lists.h"
 #include "export_progress.h"
 #include "printable_text.h"

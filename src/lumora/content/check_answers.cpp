@@ -34,13 +34,6 @@ Description ReportDocument(const CheckReport& report, const std::vector<bool>* i
           {"findings", std::move(findings)}};
 }
 
-// The checks silence the library's notices while they run by swapping the process's one notice
-// handler: two at once would restore each other's.
-std::mutex& CheckMutex() {
-  static std::mutex mutex;
-  return mutex;
-}
-
 Status Validate(const std::string& root, const CheckRequest& request, CheckOptions* options) {
   for (const std::string& name : request.checks) {
     if (IsCheckName(name)) continue;
@@ -90,6 +83,13 @@ Answer CheckContent(const std::string& root, const CheckRequest& request,
     return {Failure(StatusCode::kStopped, "the check was stopped"), std::move(document)};
   }
   return Found(std::move(document));
+}
+
+// The checks silence the library's notices while they run by swapping the process's one notice
+// handler: two at once would restore each other's.
+std::mutex& CheckMutex() {
+  static std::mutex mutex;
+  return mutex;
 }
 
 Answer ContentRoot::Check(uint32_t discipline) const {

@@ -6,6 +6,7 @@
 #include <lumora/platform/load_result.h>
 
 #include <cstdint>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,5 +32,7 @@ DisciplineSummary SummaryOf(const OpenedDiscipline& discipline);
 // The media quality folders of a check or export request: each 1, 2 or 3, all three when none
 // is given; kInvalidArgument for another number.
 Status QualityFolders(const std::vector<uint8_t>& quality, ByteArray* folders);
+// Held while a check runs: one at a time. Taken before the library lock.
+std::mutex& CheckMutex();
 
 }  // namespace lumora

@@ -5,6 +5,7 @@
 #include <lumora/content/host_progress.h>
 #include <lumora/describe/printable_text.h>
 #include <lumora/frame/library_lock.h>
+#include <lumora/frame/opened_disciplines.h>
 #include <lumora/maintenance.h>
 
 #include <filesystem>
@@ -39,9 +40,14 @@ Answer ContentRoot::Export(uint32_t discipline, const ExportRequest& request,
   ByteArray quality;
   if (Status invalid = QualityFolders(request.quality, &quality); !invalid.ok())
     return Failed(std::move(invalid));
+  std::unique_lock one_check(CheckMutex(), std::defer_lock);
+  if (request.check) one_check.lock();
   // The export reads the registry and writes through the discipline's database connection.
   std::unique_lock lock(LibraryMutex());
-  if (!open_ || !RequestFor(discipline)) return Failed(NoDiscipline(discipline));
+  OpenedDiscipline opened;
+  if (!open_ || !RequestFor(discipline) || !FindOpenedDiscipline(discipline, &opened)) {
+    return Failed(NoDiscipline(discipline));
+  }
   Status prepared;
   const std::string exportFolder =
       PrepareExportDestination(root_, discipline, request.destination, &prepared);
@@ -65,6 +71,19 @@ Answer ContentRoot::Export(uint32_t discipline, const ExportRequest& request,
                           {"bytesCopied", copied.bytes}};
   if (host.stopped()) {
     return {Failure(StatusCode::kStopped, "the export was stopped"), std::move(document)};
+  }
+  if (!request.check) return Found(std::move(document));
+  // The check reads the files alone: the registry is left to other readers meanwhile.
+  lock.unlock();
+  const HostProgress checking(progress);
+  const ExportChecks checks =
+      CheckExport({root_, opened.localRoot, request.destination, exportFolder, discipline, quality,
+                   false, checking.progress()});
+  document["ok"] = ok && checks.damage() == 0;
+  document["checks"] = DescribeCheckReports(checks.reports, checks.inherited);
+  if (checking.stopped()) {
+    return {Failure(StatusCode::kStopped, "the check of the export was stopped"),
+            std::move(document)};
   }
   return Found(std::move(document));
 }

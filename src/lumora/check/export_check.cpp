@@ -1,11 +1,14 @@
-#include "export_check.h"
+// The check of what an export wrote: the checks over the export, the findings that are the
+// export's own way summed up per type, and each finding weighed against the source.
+#include <lumora/check/content_check.h>
+#include <lumora/maintenance.h>
 
 #include <cstdio>
 #include <map>
 #include <set>
 #include <tuple>
 
-namespace lumora::cli {
+namespace lumora {
 namespace {
 
 constexpr const char* kMediaCheck = "media";
@@ -203,4 +206,4 @@ ExportChecks CheckExport(const ExportCheckInput& input) {
   return checks;
 }
 
-}  // namespace lumora::cli
+}  // namespace lumora
