@@ -186,10 +186,11 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
   test("a type is paged: each page asks only for its own resources", TIMEOUT, async () => {
     const { page, errors } = await browser.open(server.baseUrl, "/");
     await page.locator("main a").first().waitFor();
-    const asked = { ids: 0, resources: [] };
+    const asked = { ids: 0, indexes: 0, resources: [] };
     page.on("request", (r) => {
       const path = new URL(r.url()).pathname;
       if (path.startsWith("/page/ids/")) ++asked.ids;
+      if (path.startsWith("/api/d/1/index")) ++asked.indexes;
       if (path.startsWith("/api/d/1/resource/")) asked.resources.push(path);
     });
     // Marks the page sets once a view shows and once its rows are filled.
@@ -213,6 +214,7 @@ describe("the page of lumora serve", { skip: skipUnlessReady() }, () => {
     assert.ok(secondPage.length > 0 && secondPage[0] !== firstPage[0]);
     assert.equal(asked.resources.length, secondPage.length);
     assert.equal(asked.ids, 1, "the ids of a type are asked for once");
+    assert.equal(asked.indexes, 0, "the counts of the types come without the index documents");
     assert.deepEqual(errors, []);
   });
 

@@ -38,6 +38,22 @@ serve::Handler IdsHandler(const ContentRoot& content) {
   };
 }
 
+// The types of a discipline's index with how many resources each lists: what the discipline's
+// view shows, without the index documents of every type.
+serve::Handler TypesHandler(const ContentRoot& content) {
+  return [&content](const serve::Request&, const serve::RouteMatch& match) {
+    const std::optional<uint32_t> id = serve::ParseNumber(match["id"]);
+    if (!id) return serve::ErrorResponse(400, "not a discipline");
+    const std::optional<DisciplineSummary> discipline = content.Discipline(*id);
+    if (!discipline) return serve::ErrorResponse(404, "no open discipline " + match["id"]);
+    nlohmann::ordered_json types = nlohmann::ordered_json::array();
+    for (uint32_t type : discipline->types) {
+      types.push_back({{"type", type}, {"resources", content.ResourceIds(*id, type).size()}});
+    }
+    return serve::JsonResponse(200, {{"types", std::move(types)}});
+  };
+}
+
 }  // namespace
 
 void AddPage(serve::Router& router, const ContentRoot& content) {
@@ -65,6 +81,7 @@ void AddPage(serve::Router& router, const ContentRoot& content) {
     return serve::JsonResponse(200, {{"flash", flash}});
   });
   router.Get("/page/ids/{id}/{type}", IdsHandler(content));
+  router.Get("/page/types/{id}", TypesHandler(content));
 }
 
 }  // namespace lumora::cli

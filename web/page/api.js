@@ -31,7 +31,7 @@ export function getCached(path) {
 
 export const api = {
   open: () => getCached("/api/open"),
-  index: (d) => getCached(`/api/d/${d}/index`),
+  types: (d) => getCached(`/page/types/${d}`),
   ids: (d, type) => getCached(`/page/ids/${d}/${type}`),
   // A resource that cannot be read still answers a document (ok false, its reason).
   resource: (d, type, id) =>

@@ -25,12 +25,3 @@ const NAMES = {
 export function typeName(type) {
   return NAMES[type] ? `${NAMES[type]} (type ${type})` : `Type ${type}`;
 }
-
-// How many resources one type of an index document lists; null when its index holds tables of
-// its own rather than a list.
-export function indexedCount(type) {
-  if (type.groups) return type.groups.reduce((sum, g) => sum + g.resources.length, 0);
-  if (type.numbers) return type.numbers.length;
-  if (type.entries) return type.entries.length;
-  return null;
-}

@@ -2,18 +2,18 @@
 // grammar points by level.
 import { api } from "../api.js";
 import { el, link, problem } from "../dom.js";
-import { indexedCount, typeName } from "../types.js";
+import { typeName } from "../types.js";
 
 export async function showDiscipline(view) {
   const [d] = view.params;
-  const [index, levels] = await Promise.all([
-    api.index(d),
+  const [{ types: counted }, levels] = await Promise.all([
+    api.types(d),
     api.levels(d).catch((error) => error),
   ]);
-  const rows = index.types.map((t) =>
+  const rows = counted.map((t) =>
     el("tr", {},
       el("td", {}, link(`/d/${d}/type/${t.type}`, typeName(t.type))),
-      el("td", { class: "number" }, indexedCount(t) ?? "—")));
+      el("td", { class: "number" }, String(t.resources))));
   const types = el("table", {},
     el("thead", {}, el("tr", {}, el("th", {}, "Exercise type"), el("th", {}, "Resources"))),
     el("tbody", {}, rows));
