@@ -23,10 +23,8 @@ std::map<uint32_t, std::string> FilesByResource(const std::string& local_root, u
     if (!file.course || !file.isFile) continue;
     const uint32_t id = MakeResourceId(*file.course, file.number);
     // Only the name the library builds for this identifier is ever read.
-    if (file.path != ResourceFilePath(local_root, type, id) &&
-        file.path != ChangeExtension(ResourceFilePath(local_root, type, id), "arh")) {
-      continue;
-    }
+    const std::string read = ResourceFilePath(local_root, type, id);
+    if (file.path != read && !(file.twin && file.path == ChangeExtension(read, "arh"))) continue;
     auto& path = files[id];
     if (path.empty() || file.twin) path = file.path;
   }
@@ -36,9 +34,10 @@ std::map<uint32_t, std::string> FilesByResource(const std::string& local_root, u
 MediaVerification Verify(const std::string& local_root, const ByteArray& quality, uint32_t type,
                          uint32_t resource_id, const std::string& path) {
   MediaVerification result{type, resource_id, path, false, {}};
+  // The file is the one the library reads for the resource (its ".arh" twin when that is a
+  // file), as FilesByResource chose it.
   std::unique_ptr<ExerciseResource> resource = NewResource(type);
-  result.read =
-      LoadResource(local_root, local_root, ContentRequest{}, resource_id, *resource, false).ok();
+  result.read = ReadArchiveFile(path, *resource).ok();
   if (result.read) resource->VerifyMedia(local_root, quality, result.report, resource_id);
   return result;
 }

@@ -25,16 +25,20 @@ bool ListedFiles::Contains(const std::string& path) {
 }
 
 const ListedFiles::Files& ListedFiles::Listed(std::string_view folder) {
-  const auto known = folders_.find(folder);
-  if (known != folders_.end()) return known->second;
-  const std::string name(folder);
-  Files& files = folders_[name];
-  if (const auto entries = ListedFolder(name)) {
-    for (const FolderEntry& entry : *entries) {
-      if (entry.isFile) files.insert(entry.name);
+  if (last_files_ != nullptr && folder == last_folder_) return *last_files_;
+  auto known = folders_.find(folder);
+  if (known == folders_.end()) {
+    known = folders_.emplace(std::string(folder), Files()).first;
+    if (const auto entries = ListedFolder(known->first)) {
+      for (const FolderEntry& entry : *entries) {
+        if (entry.isFile) known->second.insert(entry.name);
+      }
     }
   }
-  return files;
+  // The table's keys and values stay where they are while it grows.
+  last_folder_ = known->first;
+  last_files_ = &known->second;
+  return known->second;
 }
 
 }  // namespace lumora

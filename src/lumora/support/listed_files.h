@@ -36,6 +36,9 @@ class ListedFiles {
   const Files& Listed(std::string_view folder);
 
   std::unordered_map<std::string, Files, NameHash, std::equal_to<>> folders_;
+  // The folder asked about last: the names tried for one medium all lie in one folder.
+  std::string_view last_folder_;
+  const Files* last_files_ = nullptr;
   ListedFiles* previous_;
 };
 
