@@ -8,6 +8,7 @@
 #include <lumora/resources/type_catalog.h>
 #include <lumora/support/paths.h>
 
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <thread>
@@ -27,7 +28,7 @@ std::string IdText(uint32_t course, uint32_t number) {
 struct FileResult {
   CheckReport found;  // its findings only
   std::string bytes;
-  bool read = false;
+  WholeFile read = WholeFile::kMissing;
 };
 
 struct FileToCheck {
@@ -35,10 +36,10 @@ struct FileToCheck {
   ScannedResource file;
 };
 
-LoadResult ReadAndDecode(const std::string& path, ExerciseResource& resource, FileResult& result) {
-  switch (ReadWholeFile(path, kMostResourceBytes, result.bytes)) {
+// Decodes what ReadWholeFile read into `result`.
+LoadResult Decode(const std::string& path, ExerciseResource& resource, const FileResult& result) {
+  switch (result.read) {
     case WholeFile::kRead:
-      result.read = true;
       return ReadArchiveBytes(result.bytes, resource, path);
     case WholeFile::kTooLarge:
       return LoadResult({path, std::nullopt, "is larger than any resource file can be"});
@@ -47,8 +48,8 @@ LoadResult ReadAndDecode(const std::string& path, ExerciseResource& resource, Fi
   }
 }
 
-FileResult CheckFile(const CheckedRoot& root, const FileToCheck& item) {
-  FileResult result;
+// Checks the file that `result` holds as read.
+void CheckFile(const CheckedRoot& root, const FileToCheck& item, FileResult& result) {
   const ScannedResource& file = item.file;
   const std::string relative = root.Relative(file.path);
   if (!file.course) {
@@ -56,13 +57,13 @@ FileResult CheckFile(const CheckedRoot& root, const FileToCheck& item) {
         relative, "lies outside a course folder (C and four digits): the library never reads it");
   }
   std::unique_ptr<ExerciseResource> resource = NewResource(item.type);
-  const LoadResult loaded = ReadAndDecode(file.path, *resource, result);
+  const LoadResult loaded = Decode(file.path, *resource, result);
   if (!loaded.ok()) {
     result.found.Error(relative,
                        "does not decode as type " + std::to_string(item.type) + " (" +
                            loaded.failure().Details() + ")" +
                            (file.twin ? ": the library reads this twin before the .ars file" : ""));
-    return result;
+    return;
   }
   const uint32_t stored = resource->resourceId;
   if (file.course && (CourseOf(stored) != *file.course || NumberOf(stored) != file.number)) {
@@ -70,7 +71,6 @@ FileResult CheckFile(const CheckedRoot& root, const FileToCheck& item) {
                                      IdText(CourseOf(stored), NumberOf(stored)) +
                                      ") but its path names " + IdText(*file.course, file.number));
   }
-  return result;
 }
 
 }  // namespace
@@ -87,10 +87,19 @@ void CheckResources(const CheckedRoot& root, CheckReport& report) {
     }
   }
   std::vector<FileResult> results(items.size());
+  // A few files are read in a row, then decoded: reads one after another keep what the system
+  // needs for them at hand, which decoding in between would push out.
+  constexpr size_t kReadTogether = 32;
   auto check = [&](size_t from, size_t to) {
-    for (size_t i = from; i < to; ++i) {
-      results[i] = CheckFile(root, items[i]);
-      root.StepsDone(1);
+    for (size_t first = from; first < to; first += kReadTogether) {
+      const size_t last = std::min(to, first + kReadTogether);
+      for (size_t i = first; i < last; ++i) {
+        results[i].read = ReadWholeFile(items[i].file.path, kMostResourceBytes, results[i].bytes);
+      }
+      for (size_t i = first; i < last; ++i) {
+        CheckFile(root, items[i], results[i]);
+        root.StepsDone(1);
+      }
     }
   };
   const size_t half = items.size() / 2;
@@ -115,7 +124,9 @@ void CheckResources(const CheckedRoot& root, CheckReport& report) {
     for (Finding& finding : results[i].found.findings) {
       report.findings.push_back(std::move(finding));
     }
-    if (results[i].read) KeepFile(items[i].file.path, std::move(results[i].bytes));
+    if (results[i].read == WholeFile::kRead) {
+      KeepFile(items[i].file.path, std::move(results[i].bytes));
+    }
   }
 }
 
