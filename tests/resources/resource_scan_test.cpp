@@ -62,7 +62,7 @@ TEST(ScanResourceFiles, AnswersFromASharedListing) {
   testing::TempDir dir;
   dir.Write("C0001/r0000040/r0000001.ars", "x");
   FolderListing listing;
-  ListResourceFolders({dir.path()}, listing);
+  ListResourceFolders(dir.path(), listing);
   dir.Write("C0001/r0000040/r0000002.ars", "listed after");
   dir.Write("C0001/r0000005/r0000003.ars", "listed after");
   {

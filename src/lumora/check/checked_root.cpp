@@ -26,9 +26,9 @@ CheckedRoot::CheckedRoot(const std::string& content_root, const CheckOptions& op
     LexiconLoadResult lexicon = discipline->LoadLexicon(classification);
     disciplines.push_back({n, id, std::move(discipline), std::move(lexicon)});
   }
-  std::vector<std::string> resource_roots;
-  for (const CheckedDiscipline& d : disciplines) resource_roots.push_back(d.discipline->localRoot);
-  ListResourceFolders(resource_roots, resourceFolders);
+  for (const CheckedDiscipline& d : disciplines) {
+    ListResourceFolders(d.discipline->localRoot, resourceFolders);
+  }
   const SharedFolderListing listed(resourceFolders);
   for (const CheckedDiscipline& d : disciplines) {
     for (uint32_t type : kExerciseTypes) {

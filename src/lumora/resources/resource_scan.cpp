@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
-#include <thread>
 
 namespace lumora {
 namespace {
@@ -58,34 +57,19 @@ std::vector<ScannedResource> ScanResourceFiles(const std::string& resource_root,
   return found;
 }
 
-void ListResourceFolders(const std::vector<std::string>& resource_roots, FolderListing& listing) {
-  std::vector<std::string> type_folders;
-  for (const std::string& resource_root : resource_roots) {
-    const FolderEntries& courses = listing.Add(resource_root);
-    if (!courses) continue;
-    for (const FolderEntry& course : *courses) {
-      if (!course.isFolder) continue;
-      const std::string course_folder = resource_root + course.name + kPathSeparator;
-      const FolderEntries& types = listing.Add(course_folder);
-      if (!types) continue;
-      for (const FolderEntry& type : *types) {
-        if (type.isFolder && IsTypeFolderName(type.name)) {
-          type_folders.push_back(course_folder + type.name + kPathSeparator);
-        }
+void ListResourceFolders(const std::string& resource_root, FolderListing& listing) {
+  const FolderEntries& courses = listing.Add(resource_root);
+  if (!courses) return;
+  for (const FolderEntry& course : *courses) {
+    if (!course.isFolder) continue;
+    const std::string course_folder = resource_root + course.name + kPathSeparator;
+    const FolderEntries& types = listing.Add(course_folder);
+    if (!types) continue;
+    for (const FolderEntry& type : *types) {
+      if (type.isFolder && IsTypeFolderName(type.name)) {
+        listing.Add(course_folder + type.name + kPathSeparator);
       }
     }
-  }
-  std::vector<FolderEntries> listed(type_folders.size());
-  const auto list = [&](size_t from, size_t to) {
-    for (size_t i = from; i < to; ++i) listed[i] = ListFolder(type_folders[i]);
-  };
-  const size_t half = type_folders.size() / 2;
-  {
-    const std::jthread second(list, half, type_folders.size());
-    list(0, half);
-  }
-  for (size_t i = 0; i < type_folders.size(); ++i) {
-    listing.Add(type_folders[i], std::move(listed[i]));
   }
 }
 

@@ -36,9 +36,8 @@ std::optional<uint32_t> CourseNumberOf(std::string_view folder_name);
 std::vector<ScannedResource> ScanResourceFiles(const std::string& resource_root, uint32_t type,
                                                ScanOptions options = {});
 
-// Lists into `listing` what scans of each of `resource_roots` read: the root, each folder in it,
-// and each folder named "r" + 7 characters in those. The last, which hold most of the entries,
-// are listed by two threads.
-void ListResourceFolders(const std::vector<std::string>& resource_roots, FolderListing& listing);
+// Lists into `listing` what scans of `resource_root` read: the root, each folder in it, and
+// each folder named "r" + 7 characters in those.
+void ListResourceFolders(const std::string& resource_root, FolderListing& listing);
 
 }  // namespace lumora

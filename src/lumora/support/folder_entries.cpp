@@ -49,10 +49,6 @@ const FolderEntries& FolderListing::Add(const std::string& folder) {
   return folders_[folder] = ListFolder(folder);
 }
 
-void FolderListing::Add(const std::string& folder, FolderEntries entries) {
-  folders_.insert_or_assign(folder, std::move(entries));
-}
-
 const FolderEntries* FolderListing::Find(const std::string& folder) const {
   if (const auto known = folders_.find(folder); known != folders_.end()) return &known->second;
   if (folder.size() < 2 || folder.back() != kPathSeparator) return nullptr;

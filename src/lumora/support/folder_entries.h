@@ -31,8 +31,6 @@ class FolderListing {
  public:
   // Lists `folder` (a path ending in the separator) unless it is listed already.
   const FolderEntries& Add(const std::string& folder);
-  // Takes `entries`, listed by the caller, as what `folder` holds.
-  void Add(const std::string& folder, FolderEntries entries);
   // The entries of a folder listed here; for a folder whose parent is listed here but does not
   // hold it as a folder, nothing (it cannot be listed); null when the listing cannot say.
   const FolderEntries* Find(const std::string& folder) const;
