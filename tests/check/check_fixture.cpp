@@ -18,13 +18,17 @@ CheckReport CheckTest::Report(const std::string& name, bool fix_case) const {
   return reports.empty() ? CheckReport{} : reports.front();
 }
 
-std::vector<std::string> CheckTest::Findings(const std::string& name, bool fix_case) const {
+std::vector<std::string> FindingLines(const CheckReport& report) {
   std::vector<std::string> lines;
-  for (const Finding& f : Report(name, fix_case).findings) {
+  for (const Finding& f : report.findings) {
     lines.push_back(std::string(f.severity == Severity::kError ? "error " : "warning ") + f.file +
                     ": " + f.message);
   }
   return lines;
+}
+
+std::vector<std::string> CheckTest::Findings(const std::string& name, bool fix_case) const {
+  return FindingLines(Report(name, fix_case));
 }
 
 }  // namespace lumora::testing

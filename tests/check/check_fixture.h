@@ -13,6 +13,9 @@
 
 namespace lumora::testing {
 
+// The findings of `report`, one "severity file: message" line each.
+std::vector<std::string> FindingLines(const CheckReport& report);
+
 class CheckTest : public ::testing::Test {
  protected:
   void SetUp() override;

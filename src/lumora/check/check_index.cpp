@@ -10,6 +10,7 @@
 #include <lumora/resources/resource_scan.h>
 #include <lumora/resources/type_catalog.h>
 #include <lumora/resources/types/index_builders.h>
+#include <lumora/resources/types/index_inputs.h>
 #include <lumora/resources/types/type1005.h>
 #include <lumora/resources/types/type40.h>
 #include <lumora/support/paths.h>
@@ -17,8 +18,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace lumora {
 namespace {
@@ -36,11 +40,19 @@ size_t FirstDifference(const std::string& a, const std::string& b) {
 
 // The rebuilds of one discipline's index files into a scratch folder, each type's at most once:
 // type 40's rebuild starts by rebuilding the type-1005 index it reads, which the type-1005
-// comparison then reuses instead of decoding every element a second time.
+// comparison then reuses. The rebuilds of those two types take what they keep of each file from
+// the resources check, which decoded them, when it did.
 class Rebuilds {
  public:
-  Rebuilds(const std::string& resource_root, const std::string& scratch)
-      : resource_root_(resource_root), scratch_(scratch) {}
+  Rebuilds(const CheckedRoot& root, size_t d, const std::string& scratch)
+      : resource_root_(root.disciplines[d].discipline->localRoot), scratch_(scratch) {
+    if (auto found = root.decoded.elements.find(d); found != root.decoded.elements.end()) {
+      elements_ = std::move(found->second);
+    }
+    if (auto found = root.decoded.type40.find(d); found != root.decoded.type40.end()) {
+      type40_ = std::move(found->second);
+    }
+  }
 
   // Whether every resource file of `type` read (and, for type 40, linked only to indexed
   // elements); the rebuilt index is in the scratch folder either way.
@@ -49,7 +61,10 @@ class Rebuilds {
     bool built;
     if (type == Type40Resource::kType) {
       Build(kContentElementType);
-      built = BuildType40IndexOverElements(resource_root_, scratch_);
+      built = type40_ ? BuildType40IndexFrom(*type40_, scratch_)
+                      : BuildType40IndexOverElements(resource_root_, scratch_);
+    } else if (type == kContentElementType && elements_) {
+      built = BuildType1005IndexFrom(std::move(*elements_), scratch_);
     } else {
       built = BuildTypeIndex(type, resource_root_, scratch_);
     }
@@ -62,6 +77,8 @@ class Rebuilds {
  private:
   const std::string& resource_root_;
   const std::string& scratch_;
+  std::optional<std::vector<ElementIndexInput>> elements_;
+  std::optional<std::vector<Type40IndexInput>> type40_;
   std::map<uint32_t, bool> built_;
 };
 
@@ -143,7 +160,8 @@ void CheckType(const CheckedRoot& root, const Discipline& discipline, uint32_t t
 }  // namespace
 
 void CheckIndexes(const CheckedRoot& root, CheckReport& report) {
-  for (const CheckedDiscipline& d : root.disciplines) {
+  for (size_t i = 0; i < root.disciplines.size(); ++i) {
+    const CheckedDiscipline& d = root.disciplines[i];
     // A fresh scratch folder per discipline: rebuilds write companion files of other types.
     const ScratchFolder scratch("lumora-check");
     // The rebuilds' files are compared and thrown away: none of them needs to reach the disk.
@@ -153,7 +171,7 @@ void CheckIndexes(const CheckedRoot& root, CheckReport& report) {
                      "no scratch folder could be made: the index files are not compared with a "
                      "rebuild");
     }
-    Rebuilds rebuilds(d.discipline->localRoot, scratch.path());
+    Rebuilds rebuilds(root, i, scratch.path());
     for (uint32_t type : kExerciseTypes) {
       CheckType(root, *d.discipline, type, scratch.path().empty() ? nullptr : &rebuilds, report);
     }

@@ -27,30 +27,38 @@ std::string FindingText(const CheckedRoot& root, const std::string& line) {
   return text;
 }
 
+void Report(const CheckedRoot& root, const MediaVerification& v, CheckReport& report) {
+  ++report.checked;
+  root.StepsDone(1);
+  if (v.ok()) return;  // what most resources have to say
+  const std::string file = root.Relative(v.path);
+  if (!v.read) {
+    report.Error(file, "does not decode, so its media are not checked (see the resources check)");
+    return;
+  }
+  std::stringstream lines(v.report);
+  std::string line;
+  while (std::getline(lines, line)) {
+    const std::string finding = FindingText(root, line);
+    if (!finding.empty()) report.Error(file, finding);
+  }
+}
+
 }  // namespace
 
 void CheckMedia(const CheckedRoot& root, CheckReport& report) {
-  for (const CheckedDiscipline& d : root.disciplines) {
-    if (!d.discipline->resourceIndex) continue;
+  for (size_t d = 0; d < root.disciplines.size(); ++d) {
+    // The resources check verified them as it decoded them, when it ran.
+    if (!root.decoded.media.empty()) {
+      for (const MediaVerification& v : root.decoded.media[d]) Report(root, v, report);
+      continue;
+    }
+    const Discipline& discipline = *root.disciplines[d].discipline;
+    if (!discipline.resourceIndex) continue;
     for (const MediaVerification& v : VerifyIndexedMedia(
-             d.discipline->localRoot, *d.discipline->resourceIndex, root.qualityFolders(),
-             std::nullopt, [&root] { root.StepsDone(1); },
-             [&root](const std::string& path) { return root.ChecksResourceFile(path); })) {
-      ++report.checked;
-      if (v.ok()) continue;  // what most resources have to say
-      const std::string file = root.Relative(v.path);
-      if (!v.read) {
-        report.Error(file,
-                     "does not decode, so its media are not checked (see the resources "
-                     "check)");
-        continue;
-      }
-      std::stringstream lines(v.report);
-      std::string line;
-      while (std::getline(lines, line)) {
-        const std::string finding = FindingText(root, line);
-        if (!finding.empty()) report.Error(file, finding);
-      }
+             discipline.localRoot, *discipline.resourceIndex, root.qualityFolders(), std::nullopt,
+             {}, [&root](const std::string& path) { return root.ChecksResourceFile(path); })) {
+      Report(root, v, report);
     }
   }
 }

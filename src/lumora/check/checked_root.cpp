@@ -52,6 +52,11 @@ void CheckedRoot::StepsDone(uint64_t steps) const {
   options.progress->SetPosition(static_cast<uint32_t>(std::min<uint64_t>(done_, UINT32_MAX)));
 }
 
+bool CheckedRoot::Runs(std::string_view check) const {
+  return options.checks.empty() ||
+         std::find(options.checks.begin(), options.checks.end(), check) != options.checks.end();
+}
+
 bool CheckedRoot::ChecksResourceFile(const std::string& path) const {
   return onlyResourceFiles_.empty() || onlyResourceFiles_.count(Relative(path)) > 0;
 }

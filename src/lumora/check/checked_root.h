@@ -4,13 +4,17 @@
 #pragma once
 
 #include <lumora/check/content_check.h>
+#include <lumora/check/media_verification.h>
 #include <lumora/frame/discipline.h>
 #include <lumora/lexicon/classification.h>
+#include <lumora/resources/types/index_inputs.h>
 #include <lumora/support/content_ini.h>
 #include <lumora/support/folder_entries.h>
 #include <lumora/support/profile_file.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -37,8 +41,11 @@ class CheckedRoot {
   std::string Relative(const std::string& path) const;
   // The quality folders to check: those of the options, or 1, 2 and 3.
   const ByteArray& qualityFolders() const { return quality_; }
+  // Whether the check of that name is among those run.
+  bool Runs(std::string_view check) const;
   // Whether the checks of resource files one by one look at the file at `path`.
   bool ChecksResourceFile(const std::string& path) const;
+  bool ChecksEveryResourceFile() const { return onlyResourceFiles_.empty(); }
 
   // The progress of the whole run counts files read: `steps` are expected in all.
   void SetProgressRange(uint64_t steps);
@@ -58,6 +65,18 @@ class CheckedRoot {
   // them; the number of resource files (".ars" and ".arh") they hold.
   FolderListing resourceFolders;
   uint64_t resourceFiles = 0;
+  // What the resources check decoded for the checks after it, so that no resource file is
+  // decoded twice: written by that check before any other runs beside it.
+  struct Decoded {
+    // The media check's verifications of each discipline's resources, in its order; empty when
+    // that check does not run.
+    std::vector<std::vector<MediaVerification>> media;
+    // By discipline, what the type-1005 and type-40 index rebuilds keep of each file of a scan
+    // of the type, when every one was decoded; the index check takes them.
+    std::map<size_t, std::vector<ElementIndexInput>> elements;
+    std::map<size_t, std::vector<Type40IndexInput>> type40;
+  };
+  mutable Decoded decoded;
 
  private:
   ByteArray quality_;

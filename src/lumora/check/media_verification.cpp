@@ -8,41 +8,76 @@
 #include <lumora/support/paths.h>
 
 #include <algorithm>
-#include <map>
-#include <set>
+#include <tuple>
 #include <utility>
 
 namespace lumora {
-namespace {
 
-// The resource file the library reads for each resource of `type` below local_root, by
-// identifier: the ".arh" twin when it is a file, else the ".ars" file, in course folders only.
-std::map<uint32_t, std::string> FilesByResource(const std::string& local_root, uint32_t type) {
-  std::map<uint32_t, std::string> files;
-  for (const ScannedResource& file : ScanResourceFiles(local_root, type, {true})) {
+std::vector<IndexedFile> IndexedAmong(const std::string& localRoot, uint32_t type,
+                                      const TypeIndex& index,
+                                      const std::vector<ScannedResource>& scanned) {
+  auto indexed = NumbersOf(index);
+  if (!indexed) return {};
+  std::vector<uint32_t>& numbers = indexed->numbers;
+  std::sort(numbers.begin(), numbers.end());
+  struct Candidate {
+    uint32_t number;
+    IndexedFile file;
+    bool twin;
+  };
+  std::vector<Candidate> candidates;
+  for (size_t i = 0; i < scanned.size(); ++i) {
+    const ScannedResource& file = scanned[i];
     if (!file.course || !file.isFile) continue;
     const uint32_t id = MakeResourceId(*file.course, file.number);
+    if (!std::binary_search(numbers.begin(), numbers.end(), NumberOf(id))) continue;
     // Only the name the library builds for this identifier is ever read.
-    const std::string read = ResourceFilePath(local_root, type, id);
+    const std::string read = ResourceFilePath(localRoot, type, id);
     if (file.path != read && !(file.twin && file.path == ChangeExtension(read, "arh"))) continue;
-    auto& path = files[id];
-    if (path.empty() || file.twin) path = file.path;
+    candidates.push_back({NumberOf(id), {i, id}, file.twin});
+  }
+  // Each indexed number in every course folder that holds it: number order, then course; of
+  // the files of one resource, the ".arh" twin (which a scan lists after its ".ars" name)
+  // when it is a file, else the ".ars" file.
+  std::stable_sort(candidates.begin(), candidates.end(), [](const auto& a, const auto& b) {
+    return std::tie(a.number, a.file.resourceId) < std::tie(b.number, b.file.resourceId);
+  });
+  std::vector<IndexedFile> files;
+  for (size_t i = 0; i < candidates.size(); ++i) {
+    const bool same = !files.empty() && files.back().resourceId == candidates[i].file.resourceId;
+    if (!same) {
+      files.push_back(candidates[i].file);
+    } else if (candidates[i].twin) {
+      files.back() = candidates[i].file;
+    }
   }
   return files;
 }
 
-MediaVerification Verify(const std::string& local_root, const ByteArray& quality, uint32_t type,
-                         uint32_t resource_id, const std::string& path) {
-  MediaVerification result{type, resource_id, path, false, {}};
-  // The file is the one the library reads for the resource (its ".arh" twin when that is a
-  // file), as FilesByResource chose it.
-  std::unique_ptr<ExerciseResource> resource = NewResource(type);
-  result.read = ReadArchiveFile(path, *resource).ok();
-  if (result.read) resource->VerifyMedia(local_root, quality, result.report, resource_id);
-  return result;
+std::vector<IndexedResourceFile> IndexedResourceFiles(
+    const std::string& localRoot, const ResourceIndex& index, std::optional<uint32_t> onlyType,
+    const std::function<bool(const std::string& path)>& wanted) {
+  std::vector<IndexedResourceFile> chosen;
+  for (uint32_t type : index.types()) {
+    if (onlyType && *onlyType != type) continue;
+    const TypeIndex* type_index = index.FindType(type);
+    if (type_index == nullptr) continue;
+    std::vector<ScannedResource> scanned = ScanResourceFiles(localRoot, type, {true});
+    for (const IndexedFile& file : IndexedAmong(localRoot, type, *type_index, scanned)) {
+      std::string& path = scanned[file.scanned].path;
+      if (!wanted || wanted(path)) chosen.push_back({type, file.resourceId, std::move(path)});
+    }
+  }
+  return chosen;
 }
 
-}  // namespace
+MediaVerification VerifyDecodedMedia(const std::string& localRoot, const ByteArray& qualityFolders,
+                                     const IndexedResourceFile& file, ExerciseResource* decoded) {
+  MediaVerification result{file.type, file.resourceId, file.path, decoded != nullptr, {}};
+  if (decoded != nullptr)
+    decoded->VerifyMedia(localRoot, qualityFolders, result.report, file.resourceId);
+  return result;
+}
 
 std::vector<MediaVerification> VerifyIndexedMedia(
     const std::string& localRoot, const ResourceIndex& index, const ByteArray& qualityFolders,
@@ -52,25 +87,12 @@ std::vector<MediaVerification> VerifyIndexedMedia(
   // file looked up in it.
   const ListedFiles listed;
   std::vector<MediaVerification> results;
-  for (uint32_t type : index.types()) {
-    if (onlyType && *onlyType != type) continue;
-    const TypeIndex* type_index = index.FindType(type);
-    const auto indexed = type_index ? NumbersOf(*type_index) : std::nullopt;
-    if (!indexed) continue;
-    const std::set<uint32_t> numbers(indexed->numbers.begin(), indexed->numbers.end());
-    // Each indexed number in every course folder that holds it: number order, then course.
-    std::vector<std::pair<uint32_t, uint32_t>> found;  // number, resource identifier
-    const std::map<uint32_t, std::string> files = FilesByResource(localRoot, type);
-    for (const auto& [id, path] : files) {
-      if (numbers.count(NumberOf(id)) != 0 && (!wanted || wanted(path))) {
-        found.emplace_back(NumberOf(id), id);
-      }
-    }
-    std::sort(found.begin(), found.end());
-    for (const auto& [number, id] : found) {
-      results.push_back(Verify(localRoot, qualityFolders, type, id, files.at(id)));
-      if (verified) verified();
-    }
+  for (const IndexedResourceFile& file : IndexedResourceFiles(localRoot, index, onlyType, wanted)) {
+    std::unique_ptr<ExerciseResource> resource = NewResource(file.type);
+    const bool read = ReadArchiveFile(file.path, *resource).ok();
+    results.push_back(
+        VerifyDecodedMedia(localRoot, qualityFolders, file, read ? resource.get() : nullptr));
+    if (verified) verified();
   }
   return results;
 }

@@ -4,8 +4,11 @@
 #pragma once
 
 #include <lumora/platform/typed_array.h>
+#include <lumora/resources/exercise_resource.h>
 #include <lumora/resources/resource_index.h>
+#include <lumora/resources/resource_scan.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -23,6 +26,34 @@ struct MediaVerification {
 
   bool ok() const { return read && report.empty(); }
 };
+
+// A resource whose media are to be verified: the file the library reads for it.
+struct IndexedResourceFile {
+  uint32_t type = 0;
+  uint32_t resourceId = 0;
+  std::string path;  // its ".arh" twin when that is a file, else its ".ars" file
+};
+
+// Of `scanned`, a scan of `type` below localRoot with twins, the files the library reads for the
+// resources `index` lists: for each its ".arh" twin when that is a file, else its ".ars" file,
+// in course folders only. In resource number order, then course order.
+struct IndexedFile {
+  size_t scanned = 0;  // its place in `scanned`
+  uint32_t resourceId = 0;
+};
+std::vector<IndexedFile> IndexedAmong(const std::string& localRoot, uint32_t type,
+                                      const TypeIndex& index,
+                                      const std::vector<ScannedResource>& scanned);
+
+// The resource files VerifyIndexedMedia reads, in the order it answers (see there).
+std::vector<IndexedResourceFile> IndexedResourceFiles(
+    const std::string& localRoot, const ResourceIndex& index, std::optional<uint32_t> onlyType,
+    const std::function<bool(const std::string& path)>& wanted = {});
+
+// The verification of `file`'s media, from the resource decoded from it, or null when the file
+// does not decode: for callers that have decoded the resource already.
+MediaVerification VerifyDecodedMedia(const std::string& localRoot, const ByteArray& qualityFolders,
+                                     const IndexedResourceFile& file, ExerciseResource* decoded);
 
 // Every resource of every type of `index` (only `onlyType` when given) whose file lies in a
 // course folder below local_root, read and verified against the media of `qualityFolders`.
