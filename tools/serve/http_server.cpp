@@ -163,14 +163,17 @@ bool HttpServer::Start(const ServerOptions& options, std::string* error) {
 
 void HttpServer::Stop(std::chrono::milliseconds grace) {
   if (!daemon_) return;
+  // No new connection is taken from here on. The listening socket stays open until the engine
+  // has stopped: its threads may still be taking it out of their polling sets, and one that
+  // finds it closed aborts the program.
   const MHD_socket listener = MHD_quiesce_daemon(daemon_);
-  if (listener != MHD_INVALID_SOCKET) ::close(listener);
   const auto deadline = std::chrono::steady_clock::now() + grace;
   while (in_flight_.load() > 0 && std::chrono::steady_clock::now() < deadline) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   MHD_stop_daemon(daemon_);
   daemon_ = nullptr;
+  if (listener != MHD_INVALID_SOCKET) ::close(listener);
 }
 
 bool IsLoopback(const std::string& address) {
