@@ -33,8 +33,8 @@ struct NamedCheck {
   bool renames = false;  // whether it changes the tree when the options fix names
 };
 
-// In this order: the resource files are read (and kept), their media verified and what the
-// index rebuilds need of them taken as they are decoded, before the index files are rebuilt.
+// In this order: the resource files are read, their media verified and what the index rebuilds
+// need of them taken as they are decoded, before the index files are rebuilt.
 constexpr std::array kChecks = {
     NamedCheck{"config", &CheckConfig, Lane::kFirst},
     NamedCheck{"sets", &CheckSets, Lane::kFirst},

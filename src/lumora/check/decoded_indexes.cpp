@@ -17,7 +17,7 @@ DecodedIndexes::Input DecodedIndexes::InputOf(uint32_t type, uint32_t number,
     if (decoded == nullptr) return ElementIndexInput{number, nullptr};
     return ElementIndexInputOf(static_cast<const ContentElement&>(*decoded), number);
   }
-  if (decoded == nullptr) return Type40IndexInput{number, false, 0, {}, true, 0};
+  if (decoded == nullptr) return UnloadedType40IndexInput(number);
   return Type40IndexInputOf(static_cast<const Type40Resource&>(*decoded), number);
 }
 

@@ -1,7 +1,5 @@
 #include <lumora/check/decoded_media.h>
-#include <lumora/resources/type_catalog.h>
 #include <lumora/support/listed_files.h>
-#include <lumora/support/paths.h>
 
 namespace lumora {
 
@@ -32,12 +30,6 @@ void DecodedMedia::Verify(size_t place, ExerciseResource* decoded) {
                                   root_.qualityFolders(), p.file, decoded);
 }
 
-void DecodedMedia::VerifyFromFile(Place& place) {
-  std::unique_ptr<ExerciseResource> resource = NewResource(place.file.type);
-  const bool read = ReadArchiveFile(place.file.path, *resource).ok();
-  Verify(static_cast<size_t>(&place - places_.data()), read ? resource.get() : nullptr);
-}
-
 void DecodedMedia::Finish() {
   if (!runs_) return;
   const ListedFiles listed;
@@ -46,6 +38,9 @@ void DecodedMedia::Finish() {
     const Discipline& discipline = *root_.disciplines[d].discipline;
     if (!discipline.resourceIndex) continue;
     std::vector<MediaVerification>& verified = root_.decoded.media[d];
+    const auto from_file = [&](const IndexedResourceFile& file) {
+      verified.push_back(VerifyMediaFromFile(discipline.localRoot, root_.qualityFolders(), file));
+    };
     // In the index's order of types; a type the resources check did not scan is read here.
     for (uint32_t type : discipline.resourceIndex->types()) {
       const auto scanned = types_.find({d, type});
@@ -53,15 +48,16 @@ void DecodedMedia::Finish() {
         for (const IndexedResourceFile& file : IndexedResourceFiles(
                  discipline.localRoot, *discipline.resourceIndex, type,
                  [this](const std::string& path) { return root_.ChecksResourceFile(path); })) {
-          places_.push_back({d, file, std::nullopt});
-          VerifyFromFile(places_.back());
-          verified.push_back(std::move(*places_.back().verified));
+          from_file(file);
         }
         continue;
       }
       for (size_t i = scanned->second.first; i < scanned->second.second; ++i) {
-        if (!places_[i].verified) VerifyFromFile(places_[i]);
-        verified.push_back(std::move(*places_[i].verified));
+        if (places_[i].verified) {
+          verified.push_back(std::move(*places_[i].verified));
+        } else {
+          from_file(places_[i].file);
+        }
       }
     }
   }

@@ -41,8 +41,6 @@ class DecodedMedia {
     IndexedResourceFile file;
     std::optional<MediaVerification> verified;
   };
-  void VerifyFromFile(Place& place);
-
   const CheckedRoot& root_;
   bool runs_;
   std::vector<Place> places_;

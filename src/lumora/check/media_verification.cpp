@@ -79,6 +79,13 @@ MediaVerification VerifyDecodedMedia(const std::string& localRoot, const ByteArr
   return result;
 }
 
+MediaVerification VerifyMediaFromFile(const std::string& localRoot, const ByteArray& qualityFolders,
+                                      const IndexedResourceFile& file) {
+  std::unique_ptr<ExerciseResource> resource = NewResource(file.type);
+  const bool read = ReadArchiveFile(file.path, *resource).ok();
+  return VerifyDecodedMedia(localRoot, qualityFolders, file, read ? resource.get() : nullptr);
+}
+
 std::vector<MediaVerification> VerifyIndexedMedia(
     const std::string& localRoot, const ResourceIndex& index, const ByteArray& qualityFolders,
     std::optional<uint32_t> onlyType, const std::function<void()>& verified,
@@ -88,10 +95,7 @@ std::vector<MediaVerification> VerifyIndexedMedia(
   const ListedFiles listed;
   std::vector<MediaVerification> results;
   for (const IndexedResourceFile& file : IndexedResourceFiles(localRoot, index, onlyType, wanted)) {
-    std::unique_ptr<ExerciseResource> resource = NewResource(file.type);
-    const bool read = ReadArchiveFile(file.path, *resource).ok();
-    results.push_back(
-        VerifyDecodedMedia(localRoot, qualityFolders, file, read ? resource.get() : nullptr));
+    results.push_back(VerifyMediaFromFile(localRoot, qualityFolders, file));
     if (verified) verified();
   }
   return results;

@@ -55,6 +55,10 @@ std::vector<IndexedResourceFile> IndexedResourceFiles(
 MediaVerification VerifyDecodedMedia(const std::string& localRoot, const ByteArray& qualityFolders,
                                      const IndexedResourceFile& file, ExerciseResource* decoded);
 
+// The verification of `file`'s media, from the resource read from the file.
+MediaVerification VerifyMediaFromFile(const std::string& localRoot, const ByteArray& qualityFolders,
+                                      const IndexedResourceFile& file);
+
 // Every resource of every type of `index` (only `onlyType` when given) whose file lies in a
 // course folder below local_root, read and verified against the media of `qualityFolders`.
 // In type order, then resource number order, then course order. `verified`, when given, is

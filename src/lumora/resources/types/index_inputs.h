@@ -36,6 +36,8 @@ struct Type40IndexInput {
   size_t items = 0;
 };
 Type40IndexInput Type40IndexInputOf(const Type40Resource& resource, uint32_t number);
+// The input of a file that does not load.
+Type40IndexInput UnloadedType40IndexInput(uint32_t number);
 // Over the type-1005 index file already in index_folder; false without writing anything when
 // it cannot be read.
 bool BuildType40IndexFrom(const std::vector<Type40IndexInput>& inputs,

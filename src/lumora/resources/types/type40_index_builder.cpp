@@ -79,6 +79,12 @@ Type40IndexInput Type40IndexInputOf(const Type40Resource& resource, uint32_t num
   return input;
 }
 
+Type40IndexInput UnloadedType40IndexInput(uint32_t number) {
+  Type40IndexInput input;
+  input.number = number;
+  return input;
+}
+
 bool BuildType40IndexFrom(const std::vector<Type40IndexInput>& inputs,
                           const std::string& index_folder) {
   Type1005Index elements;
@@ -113,7 +119,7 @@ bool BuildType40IndexOverElements(const std::string& resource_root,
     if (LoadArchiveFile(file.path, false, resource)) {
       inputs.push_back(Type40IndexInputOf(resource, file.number));
     } else {
-      inputs.push_back({file.number, false, 0, {}, true, 0});
+      inputs.push_back(UnloadedType40IndexInput(file.number));
     }
   }
   return BuildType40IndexFrom(inputs, index_folder);
